@@ -1,0 +1,4 @@
+#pragma once
+namespace zarvik {
+class BigInteger {};
+}  // namespace zarvik

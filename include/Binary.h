@@ -1,0 +1,5 @@
+#pragma once
+#include "zkstring.h"
+namespace zarvik {
+class Binary : protected zkstring {};
+}  // namespace zarvik

@@ -1,0 +1,5 @@
+#pragma once
+namespace zarvik {
+class DateTime {};
+class ISODateTime : public DateTime {};
+}  // namespace zarvik
