@@ -12,6 +12,8 @@ write_basic_package_version_file(zarvikrtConfigVersion.cmake COMPATIBILITY SameM
 install(FILES ${PROJECT_BINARY_DIR}/zarvikrtConfig.cmake ${PROJECT_BINARY_DIR}/zarvikrtConfigVersion.cmake
         DESTINATION ${packageDir})
 
+# The package file finds the prefix from where it lies itself, so that an installed tree may be moved.
+file(RELATIVE_PATH pcPrefix /prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig /prefix)
 set(pcLinkOptions "")
 if(NOT BUILD_SHARED_LIBS)
   set(pcLinkOptions "-Wl,--undefined=zarvikrtVersionRecord")
