@@ -1,0 +1,297 @@
+#include "Conversion.h"
+
+#include <array>
+#include <bit>
+#include <charconv>
+#include <cstdint>
+#include <limits>
+
+#include "Binary.h"
+#include "Exceptions.h"
+#include "ThrowFrom.h"
+
+namespace zarvik {
+namespace {
+
+constexpr char here[] = "cpp/Conversion";
+
+/// The texts "00" to "99", one behind the other.
+constexpr auto digitPairs = [] {
+  std::array<char, 200> pairs{};
+  for (unsigned int i = 0; i < 100; ++i) {
+    pairs[2 * i] = static_cast<char>('0' + i / 10);
+    pairs[2 * i + 1] = static_cast<char>('0' + i % 10);
+  }
+  return pairs;
+}();
+
+char* putPair(char* out, std::uint64_t n) {
+  std::memcpy(out, &digitPairs[2 * n], 2);
+  return out + 2;
+}
+
+/// A number of one or two digits.
+char* putOneOrTwo(char* out, std::uint64_t n) {
+  if (n >= 10) return putPair(out, n);
+  *out = static_cast<char>('0' + n);
+  return out + 1;
+}
+
+constexpr std::uint64_t hundredToThe(int n) { return n == 0 ? 1 : 100 * hundredToThe(n - 1); }
+
+/// A number as a fixed-point value with the point behind its first two digits: multiplied by the reciprocal of
+/// 100^`Pairs`, its digits leave at the top, two for each multiplication by 100, with no division at all. 57 bits of
+/// fraction leave room for two digits above, and are enough for all numbers below 2^32 and 100^(`Pairs` + 1).
+template <int Pairs>
+class DigitStream {
+ public:
+  explicit DigitStream(std::uint32_t n) : fixed(n * (one / hundredToThe(Pairs) + 1)) {}
+
+  std::uint64_t first() const { return fixed >> bits; }
+  char* putRest(char* out) {
+    for (int i = 0; i < Pairs; ++i) {
+      fixed = (fixed & (one - 1)) * 100;
+      out = putPair(out, fixed >> bits);
+    }
+    return out;
+  }
+
+ private:
+  static constexpr int bits = 57;
+  static constexpr std::uint64_t one = std::uint64_t{1} << bits;
+  std::uint64_t fixed;
+};
+
+/// The 2 x `Pairs` + 1 or 2 x `Pairs` + 2 digits of a number that has as many.
+template <int Pairs>
+char* putFrom(char* out, std::uint32_t n) {
+  DigitStream<Pairs> digits(n);
+  return digits.putRest(putOneOrTwo(out, digits.first()));
+}
+
+/// Exactly eight digits, with leading zeros, of a number below 10^8.
+char* putEight(char* out, std::uint32_t n) {
+  DigitStream<3> digits(n);
+  return digits.putRest(putPair(out, digits.first()));
+}
+
+char* putUnsigned(char* out, std::uint32_t n) {
+  if (n < 100) return putOneOrTwo(out, n);
+  if (n < 10'000) return putFrom<1>(out, n);
+  if (n < 1'000'000) return putFrom<2>(out, n);
+  if (n < 100'000'000) return putFrom<3>(out, n);
+  return putFrom<4>(out, n);
+}
+
+constexpr std::uint64_t tenToThe8 = 100'000'000;
+
+char* putUnsigned(char* out, std::uint64_t n) {
+  if (n <= std::numeric_limits<std::uint32_t>::max()) return putUnsigned(out, static_cast<std::uint32_t>(n));
+  std::uint64_t high = n / tenToThe8;
+  if (high >= tenToThe8) {
+    out = putUnsigned(out, static_cast<std::uint32_t>(high / tenToThe8));
+    out = putEight(out, static_cast<std::uint32_t>(high % tenToThe8));
+  } else {
+    out = putUnsigned(out, static_cast<std::uint32_t>(high));
+  }
+  return putEight(out, static_cast<std::uint32_t>(n % tenToThe8));
+}
+
+/// The whole number with its sign, no terminator; gives the end.
+char* put(char* out, int value) {
+  std::uint32_t magnitude = static_cast<std::uint32_t>(value);
+  if (value < 0) {
+    *out++ = '-';
+    magnitude = 0 - magnitude;
+  }
+  return putUnsigned(out, magnitude);
+}
+
+char* put(char* out, __int64 value) {
+  std::uint64_t magnitude = static_cast<std::uint64_t>(value);
+  if (value < 0) {
+    *out++ = '-';
+    magnitude = 0 - magnitude;
+  }
+  return putUnsigned(out, magnitude);
+}
+
+/// The eight digits of a fraction without trailing zeros, but for one.
+char* putFraction(char* out, std::uint32_t hundredMillionths) {
+  if (hundredMillionths == 0) {
+    *out = '0';
+    return out + 1;
+  }
+  char* end = putEight(out, hundredMillionths);
+  while (end[-1] == '0') --end;
+  return end;
+}
+
+__extension__ typedef unsigned __int128 Wide;
+
+/// The magnitude of a double below 2^63 as a count of hundred-millionths, rounded as the C library rounds: exactly,
+/// and halves to even.
+struct Decimal {
+  std::uint64_t whole;
+  std::uint32_t hundredMillionths;
+};
+
+constexpr int mantissaBits = 52;
+constexpr int exponentBias = 1023 + mantissaBits;
+
+Decimal rounded(std::uint64_t bits) {
+  const int exponentField = static_cast<int>(bits >> mantissaBits);
+  const std::uint64_t leadingBit = std::uint64_t{exponentField != 0} << mantissaBits;
+  const std::uint64_t mantissa = (bits & ((std::uint64_t{1} << mantissaBits) - 1)) | leadingBit;
+  // The value is mantissa / 2^shift.
+  const int shift = exponentBias - (exponentField != 0 ? exponentField : 1);
+  if (shift <= 0) return {mantissa << -shift, 0};
+  if (shift > 81) return {0, 0};  // below 2^53 / 2^82, less than half of a hundred-millionth
+
+  const std::uint64_t whole = shift > mantissaBits ? 0 : mantissa >> shift;
+  const Wide scaled = Wide{mantissa - (whole << (shift & 63))} * tenToThe8;
+  const Wide rest = scaled & ((Wide{1} << shift) - 1);
+  const Wide half = Wide{1} << (shift - 1);
+  std::uint64_t part = static_cast<std::uint64_t>(scaled >> shift);
+  part += rest > half || (rest == half && (part & 1) != 0);
+  if (part == tenToThe8) return {whole + 1, 0};
+  return {whole, static_cast<std::uint32_t>(part)};
+}
+
+constexpr std::uint64_t signBit = std::uint64_t{1} << 63;
+constexpr std::uint64_t bitsOfTwoTo63 = std::uint64_t{exponentBias + 63 - mantissaBits} << mantissaBits;
+
+/// From 2^63 on every double is a whole number; infinity and not-a-number have no fraction either.
+char* putLarge(char* out, double value) {
+  char text[doubleTextSize];
+  char* end = std::to_chars(text, text + sizeof text, value, std::chars_format::fixed, 0).ptr;
+  if (end[-1] >= '0' && end[-1] <= '9') {
+    *end++ = '.';
+    *end++ = '0';
+  }
+  std::memcpy(out, text, static_cast<std::size_t>(end - text));
+  return out + (end - text);
+}
+
+char* put(char* out, double value) {
+  const std::uint64_t bits = std::bit_cast<std::uint64_t>(value);
+  const std::uint64_t magnitude = bits & ~signBit;
+  if (magnitude >= bitsOfTwoTo63) return putLarge(out, value);
+  if (bits != magnitude) *out++ = '-';
+  const Decimal decimal = rounded(magnitude);
+  out = putUnsigned(out, decimal.whole);
+  *out++ = '.';
+  return putFraction(out, decimal.hundredMillionths);
+}
+
+template <class T>
+void putTerminated(char* out, T value) {
+  *put(out, value) = '\0';
+}
+
+template <int Size, class T>
+zkstring asString(T value) {
+  char text[Size];
+  return zkstring(text, static_cast<unsigned int>(put(text, value) - text));
+}
+
+template <class T>
+void fill(zkstring& out, T value, int room) {
+  char* const text = out.getBuffer(room);
+  out.setBufferLength(static_cast<int>(put(text, value) - text));
+}
+
+constexpr int smallRoom = 25;
+constexpr int largeRoom = 100;
+constexpr double longestInLargeRoom = 1e89;  // longer texts are made elsewhere, and take the room that they need
+
+/// Reads [p, end), which is not empty, by the rules of `v_atoi` and `v_atol`: Unsigned is as wide as the type asked
+/// for, `failure` throws the error of the given opening words and type name.
+///
+/// The value is collected below zero, with wrap-around, and each step only looks at the sign.
+template <class Unsigned, class Failure>
+std::make_signed_t<Unsigned> readWhole(const char* p, const char* end, const char* wrapped, const char* type,
+                                       Failure failure) {
+  using Signed = std::make_signed_t<Unsigned>;
+  const bool negative = *p == '-';
+  if (negative || *p == '+') ++p;
+  Unsigned value = 0;
+  for (; p != end; ++p) {
+    const unsigned int digit = static_cast<unsigned int>(*p) - '0';
+    if (digit > 9) failure("", type);
+    value = value * 10 - digit;
+    if (static_cast<Signed>(value) > 0) failure(wrapped, type);
+  }
+  if (negative) return static_cast<Signed>(value);
+  value = 0 - value;
+  if (static_cast<Signed>(value) < 0) failure("Integer overflow. ", "int");  // also said of a long
+  return static_cast<Signed>(value);
+}
+
+[[noreturn]] void cannotConvert(const char* opening, const char* begin, const char* end, const char* type) {
+  const zkstring text(begin, static_cast<unsigned int>(end - begin));
+  throwFrom(here, TransformException(opening + ("Cannot convert '" + text) + "' to " + type));
+}
+
+}  // namespace
+
+int v_atoi(const char* begin, const char* end) {
+  const auto failure = [=](const char* opening, const char* type) { cannotConvert(opening, begin, end, type); };
+  if (begin == end) failure("", "int");
+  return readWhole<std::uint32_t>(begin, end, "Integer overflow. ", "int", failure);
+}
+
+__int64 v_atol(const char* begin, const char* end) {
+  if (begin == end) return 0;
+  const auto failure = [=](const char* opening, const char* type) { cannotConvert(opening, begin, end, type); };
+  return readWhole<std::uint64_t>(begin, end, "Long overflow. ", "long", failure);
+}
+
+void v_itoa(int value, char* out) { putTerminated(out, value); }
+void v_ltoa(__int64 value, char* out) { putTerminated(out, value); }
+
+zkstring binaryToString(const Binary& value) { return value.toString(); }
+
+zkstring intToString(int value) { return asString<intTextSize>(value); }
+void intToString(int value, zkstring& out) { fill(out, value, smallRoom); }
+void intToString(int value, char* out) { v_itoa(value, out); }
+
+zkstring dlongToString(__int64 value) { return asString<longTextSize>(value); }
+void dlongToString(__int64 value, zkstring& out) { fill(out, value, largeRoom); }
+void dlongToString(__int64 value, char* out) { v_ltoa(value, out); }
+
+zkstring udlongToString(unsigned long long value) { return dlongToString(static_cast<__int64>(value)); }
+void udlongToString(unsigned long long value, char* out) { v_ltoa(static_cast<__int64>(value), out); }
+
+zkstring doubleToString(double value) { return asString<doubleTextSize>(value); }
+
+void doubleToString(double value, zkstring& out) {
+  const bool isLong = value > longestInLargeRoom || value < -longestInLargeRoom;
+  fill(out, value, isLong ? doubleTextSize : largeRoom);
+}
+
+void doubleToString(double value, char* out) { putTerminated(out, value); }
+
+zkstring floatToString(float value) { return doubleToString(double{value}); }
+void floatToString(float value, zkstring& out) { doubleToString(double{value}, out); }
+void floatToString(float value, char* out) { doubleToString(double{value}, out); }
+
+zkstring boolToString(bool value) { return value ? zkstringliteral("true") : zkstringliteral("false"); }
+void boolToString(bool value, zkstring& out) { out = boolToString(value); }
+
+int boolToString(bool value, char* out) {
+  const zkstring text = boolToString(value);
+  std::memcpy(out, text.data(), text.length() + 1);
+  return static_cast<int>(text.length());
+}
+
+zkstring charToString(char value) { return zkstring(1, value); }
+void charToString(char value, zkstring& out) { out.assign(value); }
+
+int charToString(char value, char* out) {
+  out[0] = value;
+  out[1] = '\0';
+  return 1;
+}
+
+}  // namespace zarvik
