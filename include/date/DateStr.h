@@ -1,0 +1,47 @@
+#pragma once
+
+#include <string_view>
+
+namespace zarvik {
+
+/// The pattern engine of the dates: prints and reads the seven fields by patterns such as "yyyyMMdd-HH:mm:ss.SSS".
+///
+/// A run of one letter is one unit; there is no quoting, other characters stand for themselves.
+///
+/// | run         | prints                                        | reads                                            |
+/// |-------------|-----------------------------------------------|--------------------------------------------------|
+/// | H d m s     | two digits, whatever the run's length         | two characters, runs of two only                 |
+/// | S           | at least three digits                         | up to three digits, runs up to SSS               |
+/// | M MM        | two digits                                    | MM: two characters                               |
+/// | MMM         | Jan to Dec                                    | the same in any case                             |
+/// | MMMM...     | January to December                           | the same in any case                             |
+/// | yyyy        | at least four digits                          | four characters, also for longer runs            |
+/// | yy          | two digits, also for all other runs of y      | two characters, from 70 in the 1900s, else 2000s |
+///
+/// Number fields read digits as far as they go and step over their full width, so that a short field gives a smaller
+/// number and no error. Neither direction allocates, and no text is looked at beyond its end.
+class DateStr {
+ public:
+  /// What is printed and read; by default what fields that a pattern lacks are read as.
+  struct Fields {
+    int year = 1970;
+    int month = 1;
+    int day = 1;
+    int hours = 0;
+    int minutes = 0;
+    int seconds = 0;
+    int milliseconds = 0;
+  };
+
+  /// The longest text that one character of a pattern can give: milliseconds outside their range.
+  static constexpr unsigned int WIDEST_CHARACTER = 11;
+
+  /// Prints to `out`, which has room for it, without a terminator, and gives the end. The year's sign is dropped.
+  static char* print(char* out, const Fields& fields, std::string_view pattern);
+
+  /// Does not check the fields' ranges. Throws TransformRuntimeException for a run that cannot be read, a month name
+  /// or literal that is not there, and text left over.
+  static Fields read(std::string_view text, std::string_view pattern);
+};
+
+}  // namespace zarvik
