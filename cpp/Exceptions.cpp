@@ -21,10 +21,7 @@ zkstring ExceptionTrace::getTraceString() const {
 Exception::Exception(const zkstring& message, Exception* detail) : message(message), detail(detail) {}
 
 Exception::Exception(const Exception& other)
-    : Object(),
-      message(other.message),
-      detail(copyOf(other.detail.get())),
-      trace(other.trace) {}
+    : Object(), message(other.message), detail(copyOf(other.detail.get())), trace(other.trace) {}
 
 Exception& Exception::operator=(const Exception& other) {
   if (this != &other) *this = Exception(other);

@@ -29,7 +29,8 @@ void Object::releaseRef() { delete this; }
 zkstring Object::toString() const {
   // A handful of digits: the address of the whole object, whatever base it is looked at through.
   char address[2 * sizeof(void*) + 1];
-  std::snprintf(address, sizeof address, "%" PRIxPTR, reinterpret_cast<std::uintptr_t>(dynamic_cast<const void*>(this)));
+  std::snprintf(address, sizeof address, "%" PRIxPTR,
+                reinterpret_cast<std::uintptr_t>(dynamic_cast<const void*>(this)));
   return Class(typeid(*this)).getName() + address;
 }
 
@@ -51,19 +52,27 @@ void Object::setCharacter(char /*value*/) { unsupportedConversionException(Kelva
 bool Object::getBoolean() const { unsupportedConversionException(KelvaraTypes::BOOLEAN_TYPE); }
 void Object::setBoolean(bool /*value*/) { unsupportedConversionException(KelvaraTypes::BOOLEAN_TYPE); }
 BigInteger Object::getBigInteger() const { unsupportedConversionException(KelvaraTypes::BIG_INTEGER_TYPE); }
-void Object::setBigInteger(const BigInteger& /*value*/) { unsupportedConversionException(KelvaraTypes::BIG_INTEGER_TYPE); }
+void Object::setBigInteger(const BigInteger& /*value*/) {
+  unsupportedConversionException(KelvaraTypes::BIG_INTEGER_TYPE);
+}
 BigDecimal Object::getBigDecimal() const { unsupportedConversionException(KelvaraTypes::BIG_DECIMAL_TYPE); }
-void Object::setBigDecimal(const BigDecimal& /*value*/) { unsupportedConversionException(KelvaraTypes::BIG_DECIMAL_TYPE); }
+void Object::setBigDecimal(const BigDecimal& /*value*/) {
+  unsupportedConversionException(KelvaraTypes::BIG_DECIMAL_TYPE);
+}
 DateTime Object::getDate() const { unsupportedConversionException(KelvaraTypes::DATE_TIME_TYPE); }
 void Object::setDate(const DateTime& /*value*/) { unsupportedConversionException(KelvaraTypes::DATE_TIME_TYPE); }
 ISODateTime Object::getISODate() const { unsupportedConversionException(KelvaraTypes::ISO_DATE_TIME_TYPE); }
-void Object::setISODate(const ISODateTime& /*value*/) { unsupportedConversionException(KelvaraTypes::ISO_DATE_TIME_TYPE); }
+void Object::setISODate(const ISODateTime& /*value*/) {
+  unsupportedConversionException(KelvaraTypes::ISO_DATE_TIME_TYPE);
+}
 zkstring Object::getString() const { unsupportedConversionException(KelvaraTypes::STRING_TYPE); }
 void Object::setString(const zkstring& /*value*/) { unsupportedConversionException(KelvaraTypes::STRING_TYPE); }
 Binary Object::getBinary() const { unsupportedConversionException(KelvaraTypes::BINARY_TYPE); }
 void Object::setBinary(const Binary& /*value*/) { unsupportedConversionException(KelvaraTypes::BINARY_TYPE); }
 const RawMessage& Object::getRawMessage() const { unsupportedConversionException(KelvaraTypes::RAW_MESSAGE_TYPE); }
-void Object::setRawMessage(const RawMessage& /*value*/) { unsupportedConversionException(KelvaraTypes::RAW_MESSAGE_TYPE); }
+void Object::setRawMessage(const RawMessage& /*value*/) {
+  unsupportedConversionException(KelvaraTypes::RAW_MESSAGE_TYPE);
+}
 const zkstring& Object::getObjectType() const { return OBJECT_TYPE; }
 void Object::setObject(const Object* value) { unsupportedConversionException(value->getObjectType()); }
 

@@ -60,14 +60,15 @@ const char* findLong(const char* from, const char* end, const char* pattern, uns
 #endif
 
 /// The first `pattern` of n >= 1 bytes in the text. Jumping from one first byte to the next is the fastest while
-/// these are rare; after a few misses they are not, and the general search takes over.
+/// these are rare; when they turn out to stand close together, the general search takes over.
 const char* findText(const char* from, const char* end, const char* pattern, unsigned int n) {
-  constexpr int misses = 4;
+  constexpr std::ptrdiff_t close = 32;
   const char* const lastStart = end - n + 1;
-  for (int i = 0; i < misses; ++i) {
+  for (int closeOnes = 0; closeOnes < 2;) {
     if (from >= lastStart) return nullptr;
     const char* const hit = findByte(from, lastStart, *pattern);
     if (hit == nullptr || std::memcmp(hit, pattern, n) == 0) return hit;
+    if (hit - from < close) ++closeOnes;
     from = hit + 1;
   }
   return findLong(from, end, pattern, n);

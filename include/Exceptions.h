@@ -12,9 +12,9 @@ class ExceptionTrace {
   void setFileName(const char* name) { fileName = name; }
   zkstring getFileName() const { return fileName; }
   void setLine(int number) { line = number; }
-  int getLine() const { return line; }               ///< 0 when not set
+  int getLine() const { return line; }  ///< 0 when not set
   bool isValid() const { return line != 0; }
-  zkstring getTraceString() const;                   ///< "<file>:<line>:", empty when not set
+  zkstring getTraceString() const;  ///< "<file>:<line>:", empty when not set
 
  private:
   zkstring fileName;

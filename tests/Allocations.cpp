@@ -1,0 +1,20 @@
+#include "Allocations.h"
+
+#include <atomic>
+#include <cstdlib>
+#include <new>
+
+namespace {
+std::atomic<long> allocations{0};
+}
+
+long Allocations::total() { return allocations; }
+
+// The array and nothrow forms end here too.
+void* operator new(std::size_t size) {
+  ++allocations;
+  if (void* const block = std::malloc(size)) return block;
+  throw std::bad_alloc();
+}
+void operator delete(void* block) noexcept { std::free(block); }
+void operator delete(void* block, std::size_t /*size*/) noexcept { std::free(block); }
