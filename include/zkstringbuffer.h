@@ -19,14 +19,17 @@ class zkstringbuffer : public zkstring {
   using zkstring::operator=;  // shares the block, as the assignment of strings does
 
   zkstringbuffer& append(char c) {
-    if (!hasRoom(1)) grow(1);
-    char* const text = start();
-    text[count++] = c;
+    if (!hasRoom(1)) [[unlikely]]
+      return appendGrowing(&c, 1);
+    const unsigned int end = count;
+    count = end + 1;  // before the byte, which might overwrite anything for all that the compiler knows
+    start()[end] = c;
     return *this;
   }
   zkstringbuffer& append(int n, char c);  ///< n times c; nothing for n below 1
   zkstringbuffer& append(const char* bytes, unsigned int length) {
-    if (!hasRoom(length)) return appendGrowing(bytes, length);
+    if (!hasRoom(length)) [[unlikely]]
+      return appendGrowing(bytes, length);
     if (length != 0) std::memcpy(start() + count, bytes, length);
     count += length;
     return *this;
