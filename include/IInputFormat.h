@@ -1,0 +1,18 @@
+#pragma once
+
+#include "Object.h"
+
+namespace zarvik {
+
+class InputSource;
+class TransformContext;
+
+/// The entry of routed inputs of one format: parses a source and hands the result on to its internal message.
+///
+/// A format keeps state from one message to the next, so one instance serves one thread at a time.
+class IInputFormat : public ObjectRef {
+ public:
+  virtual void processInput(InputSource& source, TransformContext& context) = 0;
+};
+
+}  // namespace zarvik

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "ILookupContext.h"
+
+namespace zarvik {
+
+/// Hands out contexts of the process-wide registry. The first call comes before threads begin.
+class LookupContextFactory {
+ public:
+  static LookupContextFactory& getLookupContextFactory();
+  static SmartPtr<ILookupContext> getLookupContext();
+
+  SmartPtr<ILookupContext> createLookupContext();
+};
+
+}  // namespace zarvik
