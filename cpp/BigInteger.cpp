@@ -1,0 +1,19 @@
+#include "BigInteger.h"
+
+#include "BigDecimal.h"
+#include "NumberText.h"
+
+namespace zarvik {
+
+BigInteger::BigInteger(__int64 value) {
+  if (value != 0) m_apm_set_long(val(), value);
+}
+BigInteger::BigInteger(const zkstring& text) { m_apm_set_string(val(), text.data(), text.length()); }
+BigInteger::BigInteger(const BigDecimal& value) : MAPM(value) {}
+
+__int64 BigInteger::toLong() const { return wholeNumber(cval()); }
+
+zkstring BigInteger::toString() const { return fixedPointText(cval(), 0); }
+const char* BigInteger::toString(char* out) const { return writeFixedPoint(out, cval(), 0); }
+
+}  // namespace zarvik

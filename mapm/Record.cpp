@@ -1,0 +1,159 @@
+#include "Record.h"
+
+#include <cassert>
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+constexpr int smallBytes = 80;
+constexpr int spareBytes = 4;
+constexpr int poolLimit = 256;
+
+/// A record and the room for its first 160 digits in one allocation. A longer number has a block of its own.
+struct Block {
+  M_APM_struct record;
+  alignas(16) unsigned char digits[smallBytes + spareBytes];
+  Block* next;
+};
+
+// Plain thread-local data without constructors: usable from any static initialiser and until the very end.
+constinit thread_local Block* pool = nullptr;
+constinit thread_local int pooled = 0;
+constinit thread_local bool drained = false;
+
+/// Gives the pool back when its thread ends; numbers that go later are freed one by one.
+struct Drain {
+  ~Drain() {
+    drained = true;
+    while (pool != nullptr) {
+      Block* const block = pool;
+      pool = block->next;
+      std::free(block);
+    }
+  }
+};
+
+Block* newBlock() {
+  if (!drained) [[maybe_unused]]
+    static thread_local const Drain drain;
+  Block* const block = static_cast<Block*>(std::malloc(sizeof(Block)));
+  if (block == nullptr) M_apm_log_error_msg(true, "'m_apm_init', Out of memory");
+  return block;
+}
+
+Block* pooledBlock() {
+  Block* const block = pool;
+  if (block == nullptr) return newBlock();
+  pool = block->next;
+  --pooled;
+  return block;
+}
+
+bool isSmall(const M_APM_struct* number) { return number->data == reinterpret_cast<const Block*>(number)->digits; }
+}  // namespace
+
+void M_apm_log_error_msg(bool fatal, const char* message) {
+  std::fprintf(stderr, "MAPM %s: %s\n", fatal ? "Error" : "Warning", message);
+  if (fatal) std::exit(100);
+}
+
+M_APM_struct* m_apm_init() {
+  Block* const block = pooledBlock();
+  std::memset(block->digits, 0, 16);
+  block->record = {block->digits, M_APM_IDENT, 1, smallBytes, 1, 0, 0};
+  return &block->record;
+}
+
+void m_apm_free(M_APM_struct* number) {
+  if (number->id != M_APM_IDENT) return M_apm_log_error_msg(false, "'m_apm_free', Invalid M_APM variable");
+  number->id = 0;
+  if (!isSmall(number)) std::free(number->data);
+  Block* const block = reinterpret_cast<Block*>(number);
+  if (pooled >= poolLimit || drained) return std::free(block);
+  block->next = pool;
+  pool = block;
+  ++pooled;
+}
+
+void m_apm_copy(M_APM_struct* result, const M_APM_struct* a) {
+  const int bytes = zarvik::mapm::paddedBytes(zarvik::mapm::byteCount(a));
+  std::memcpy(zarvik::mapm::makeRoom(result, bytes), a->data, static_cast<std::size_t>(bytes));
+  result->dataLength = a->dataLength;
+  result->exponent = a->exponent;
+  result->sign = a->sign;
+}
+
+namespace zarvik::mapm {
+
+unsigned char* makeRoom(M_APM_struct* number, int bytes) {
+  assert(number->refCount == 1);
+  const int needed = paddedBytes(bytes);
+  if (needed <= number->mallocLength) return number->data;
+  if (!isSmall(number)) std::free(number->data);
+  number->data = static_cast<unsigned char*>(std::malloc(static_cast<std::size_t>(needed) + spareBytes));
+  if (number->data == nullptr) M_apm_log_error_msg(true, "'m_apm_init', Out of memory");
+  number->mallocLength = needed;
+  return number->data;
+}
+
+void refuse(M_APM_struct* number, const char* warning) {
+  M_apm_log_error_msg(false, warning);
+  setZero(number);
+}
+
+namespace {
+
+/// Eight base-100 bytes, lowest first in memory: tens into `tens`, the rest of each byte is returned.
+std::uint64_t splitTens(std::uint64_t word, std::uint64_t& tens) {
+  constexpr std::uint64_t even = 0x00FF00FF00FF00FF;
+  const std::uint64_t low = ((word & even) * 103 >> 10) & 0x000F000F000F000F;
+  const std::uint64_t high = (((word >> 8) & even) * 103 >> 10) & 0x000F000F000F000F;
+  tens = low | high << 8;
+  return word - 10 * tens;
+}
+
+/// Moves all digits one place to the front; the first one is a zero. Whole padded words, read ahead of the writing.
+void dropLeadingDigit(unsigned char* data, int bytes) {
+  const int words = paddedBytes(bytes) / 8;
+  std::uint64_t tens;
+  std::uint64_t units = splitTens(loadLow(data), tens);
+  for (int i = 0; i < words; ++i) {
+    std::uint64_t nextTens = 0;
+    const std::uint64_t nextUnits = i + 1 < words ? splitTens(loadLow(data + 8 * (i + 1)), nextTens) : 0;
+    storeLow(data + 8 * i, 10 * units + (tens >> 8 | nextTens << 56));
+    units = nextUnits;
+    tens = nextTens;
+  }
+}
+
+int leadingZeroBytes(const unsigned char* data, int bytes) {
+  int zeros = 0;
+  while (zeros < bytes && data[zeros] == 0) ++zeros;
+  return zeros;
+}
+}  // namespace
+
+void normalise(M_APM_struct* number, int bytes, long long exponent, int sign) {
+  unsigned char* const data = number->data;
+  const int zeros = leadingZeroBytes(data, bytes);
+  if (zeros == bytes || sign == 0) return setZero(number);
+  if (zeros != 0) {
+    bytes -= zeros;
+    exponent -= 2LL * zeros;
+    std::memmove(data, data + zeros, static_cast<std::size_t>(bytes));
+  }
+  std::memset(data + bytes, 0, static_cast<std::size_t>(paddedBytes(bytes) - bytes));
+  if (data[0] < 10) {
+    dropLeadingDigit(data, bytes);
+    --exponent;
+  }
+  while (data[bytes - 1] == 0) --bytes;
+  if (exponent > std::numeric_limits<int>::max() || exponent < -std::numeric_limits<int>::max())
+    return refuse(number, "'m_apm_normalize', Exponent out of range");
+  number->dataLength = 2 * bytes - (data[bytes - 1] % 10 == 0 ? 1 : 0);
+  number->exponent = static_cast<int>(exponent);
+  number->sign = sign;
+}
+
+}  // namespace zarvik::mapm

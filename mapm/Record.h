@@ -1,0 +1,65 @@
+#pragma once
+
+#include <bit>
+#include <cstdint>
+#include <cstring>
+#include <limits>
+
+#include "mapm/MAPM.h"
+
+/// What the routines of the kernel share about the form of a number at rest.
+namespace zarvik::mapm {
+
+constexpr int paddedBytes(int bytes) { return (bytes + 15) & ~15; }
+constexpr int bytesOf(int digits) { return digits / 2 + digits % 2; }
+inline int byteCount(const M_APM_struct* a) { return bytesOf(a->dataLength); }
+inline int digitAt(const M_APM_struct* a, int i) {
+  const int pair = a->data[i / 2];
+  return i % 2 == 0 ? pair / 10 : pair % 10;
+}
+
+/// Eight bytes, the first of them lowest.
+inline std::uint64_t loadLow(const void* bytes) {
+  std::uint64_t word;
+  std::memcpy(&word, bytes, sizeof word);
+  return std::endian::native == std::endian::little ? word : __builtin_bswap64(word);
+}
+inline void storeLow(void* bytes, std::uint64_t word) {
+  if (std::endian::native != std::endian::little) word = __builtin_bswap64(word);
+  std::memcpy(bytes, &word, sizeof word);
+}
+
+/// Digits for `bytes` bytes and their padding; the old digits are lost. Never fails, but may end the process.
+unsigned char* makeRoom(M_APM_struct* number, int bytes);
+
+inline void setZero(M_APM_struct* number) {
+  number->dataLength = 1;
+  number->exponent = 0;
+  number->sign = 0;
+  std::memset(number->data, 0, 16);
+}
+
+/// Warns, and makes the number zero: the way out for what the kernel cannot represent.
+void refuse(M_APM_struct* number, const char* warning);
+
+/// Makes the `bytes` base-100 digits in `number->data` a normal number of the value sign * 0.digits * 10^exponent.
+void normalise(M_APM_struct* number, int bytes, long long exponent, int sign);
+
+/// The first `keep` digits of `a`, half away from zero. `keep` may be anything: from the length on, a copy.
+void roundToDigits(M_APM_struct* result, long long keep, const M_APM_struct* a);
+
+/// A number of the kernel's own for the length of a block.
+class Temporary {
+ public:
+  Temporary() : record(m_apm_init()) {}
+  ~Temporary() { m_apm_free(record); }
+  Temporary(const Temporary&) = delete;
+  Temporary& operator=(const Temporary&) = delete;
+  operator M_APM_struct*() const { return record; }
+  M_APM_struct* operator->() const { return record; }
+
+ private:
+  M_APM_struct* record;
+};
+
+}  // namespace zarvik::mapm
