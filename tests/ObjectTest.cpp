@@ -46,7 +46,7 @@ TEST(SmartPtr, movesWithoutCounting) {
   bool gone = false;
   SmartPtr<Counted> from(new Counted(gone));
   SmartPtr<Counted> to(std::move(from));
-  EXPECT_TRUE(from.isNull());  // NOLINT(bugprone-use-after-move,clang-analyzer-cplusplus.Move): the point
+  EXPECT_TRUE(from.isNull());
   EXPECT_TRUE(to->unique());
   SmartPtr<Counted>& self = to;
   to = std::move(self);

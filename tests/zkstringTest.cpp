@@ -158,7 +158,7 @@ TEST(zkstring, leavesAMovedFromStringEmptyAndUsable) {
   zkstring from("abc");
   const Allocations allocations;
   zkstring to(std::move(from));
-  EXPECT_TRUE(from.empty());  // NOLINT(bugprone-use-after-move,clang-analyzer-cplusplus.Move): the point
+  EXPECT_TRUE(from.empty());
   from = std::move(to);
   EXPECT_EQ(from, "abc");
   EXPECT_EQ(Probe(from).holders(), 2);
