@@ -110,7 +110,7 @@ zkstring& zkstring::assign(const char* bytes, unsigned int length) {
 
 zkstring& zkstring::assign(char value) {
   charToString(value, ensureCleanFree(25));
-  count = 1;
+  count = value != '\0' ? 1 : 0;  // the terminator tells the length
   return *this;
 }
 
