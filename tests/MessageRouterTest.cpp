@@ -1,0 +1,290 @@
+#include "MessageRouter.h"
+
+#include <sstream>
+#include <stdexcept>
+
+#include "DataObject.h"
+#include "Exceptions.h"
+#include "InputSource.h"
+#include "LookupContextFactory.h"
+#include "MessageHeaderAdapter.h"
+#include "ObjectFactory.h"
+#include "Support.h"
+#include "TransformContext.h"
+
+namespace zarvik {
+namespace {
+
+/// "a=1 b= c=2" as properties.
+Properties propertiesOf(const std::string& text) {
+  Properties properties;
+  std::istringstream words(text);
+  for (std::string word; words >> word;) {
+    const std::size_t equal = word.find('=');
+    properties[word.substr(0, equal).c_str()] = word.substr(equal + 1).c_str();
+  }
+  return properties;
+}
+
+class Text : public Object {
+ public:
+  Text(const zkstring& text) : text(text) {}
+  zkstring toString() const override { return text; }
+
+ private:
+  zkstring text;
+};
+
+/// A message of the given header fields. A field read is a new object.
+class Message : public DataObject {
+ public:
+  explicit Message(const Properties& fields) : fields(fields) {}
+  Object* getField(const zkstring& name) const override {
+    ++reads;
+    const auto field = fields.find(name);
+    return field != fields.end() ? new Text(field->second) : nullptr;
+  }
+  zkstring toXMLString() override { return "<Message/>"; }
+  inline static int reads = 0;
+
+ private:
+  Properties fields;
+};
+
+class Source : public InputSource {
+ public:
+  Source(const char* text) : text(text) {}
+  const char* getAsBytes(int& length) override {
+    length = static_cast<int>(text.size());
+    return text.data();
+  }
+
+ private:
+  std::string text;
+};
+
+/// Recognises everything but "?"; the text names the header fields.
+class Identifier : public MessageIdentifier {
+ public:
+  ~Identifier() override { ++deleted; }
+  DataObject* identifyMessage(InputSource& source) override {
+    int length = 0;
+    const char* const bytes = source.getAsBytes(length);
+    const std::string text(bytes, static_cast<std::size_t>(length));
+    return text == "?" ? nullptr : new Message(propertiesOf(text));
+  }
+  inline static int deleted = 0;
+};
+
+/// Writes its name and number into the log; raises what "raise" asks for.
+class Format : public IInputFormat {
+ public:
+  Format(const char* name, int number) : name(name), number(number) {}
+  void processInput(InputSource& /*source*/, TransformContext& context) override {
+    log += name + std::to_string(number) + " ";
+    const zkstring raise = context.getProperty("raise");
+    if (raise == "other") throw std::runtime_error("other");
+    if (raise.empty()) return;
+    NamingException error("from the format");
+    error.setSeverity(raise);
+    throw error;
+  }
+  inline static std::string log;
+
+ private:
+  std::string name;
+  int number;
+};
+
+class FormatFactory : public ObjectFactory {
+ public:
+  explicit FormatFactory(const char* name) : name(name) {}
+  Object* newInstance() override { return new Format(name, ++made); }
+
+ private:
+  const char* name;
+  int made = 0;
+};
+
+MessageIdentificationService* serviceOf(MessageIdentifier* identifier) {
+  auto* const service = new MessageIdentificationService;
+  service->registerMessageIdentifer(identifier);
+  return service;
+}
+
+void fill(MessageConfiguration& row, const char* conditions) {
+  using Setter = void (MessageConfiguration::*)(const zkstring&);
+  static const std::map<zkstring, Setter> setters = {{"MessageFormat", &MessageConfiguration::setMessageFormat},
+                                                     {"MessageVersion", &MessageConfiguration::setMessageVersion},
+                                                     {"MessageType", &MessageConfiguration::setMessageType}};
+  for (const auto& [name, value] : propertiesOf(conditions)) {
+    const auto setter = setters.find(name);
+    setter != setters.end() ? (row.*setter->second)(value) : row.setProperty(name, value);
+  }
+}
+
+/// A router, with "A" and "B" bound to formats and "Other" to a factory of something else.
+struct Routing {
+  Routing() {
+    Format::log.clear();
+    router.setMessageIdentificationService(serviceOf(new Identifier));
+    registry->bind("A", new FormatFactory("A"));
+    registry->bind("B", new FormatFactory("B"));
+    registry->bind("Other", new GenericObjectFactory<TransformContext>);
+  }
+  ~Routing() noexcept(false) {
+    for (const char* name : {"A", "B", "Other", "Late"}) registry->unbind(name);
+  }
+
+  /// A row of the conditions and context properties, each written as `propertiesOf` reads them.
+  void addRow(const char* conditions, const char* contextProperties) {
+    auto* const row = new MessageConfiguration;
+    fill(*row, conditions);
+    for (const auto& [name, value] : propertiesOf(contextProperties)) row->setContextProperty(name, value);
+    router.addMessageConfiguration(row);
+  }
+  /// Class and text of what the router throws for `message`, and the property "p" that is left in the context.
+  template <class E>
+  std::string errorOn(const char* message) {
+    Source source(message);
+    const std::string text = errorOf<E>([&] { router.processMessage(source, context); });
+    return text + ", p=" + context.getProperty("p").c_str();
+  }
+
+  /// The formats that took the messages, each with the number of its instance.
+  std::string route(std::initializer_list<const char*> messages) {
+    Format::log.clear();
+    for (const char* message : messages) {
+      Source source(message);
+      router.processMessage(source);
+    }
+    return Format::log;
+  }
+
+  SmartPtr<ILookupContext> registry = LookupContextFactory::getLookupContext();
+  MessageRouter router;
+  TransformContext context;
+};
+
+TEST(MessageRouter, rowsCompareExactly) {
+  struct Case {
+    const char* conditions;
+    const char* message;
+    bool fits;
+  };
+  static constexpr char order[] = "MessageFormat=FIX MessageVersion=4.4 MessageType=D Desk=NY";
+  constexpr Case cases[] = {
+      {"", order, true},
+      {"", "", true},
+      {"MessageFormat=FIX MessageVersion=4.4 MessageType=D Desk=NY", order, true},
+      {"MessageFormat=fix", order, false},
+      {"MessageFormat=FI", order, false},
+      {"MessageVersion=4.2", order, false},
+      {"MessageType=8", order, false},
+      {"MessageType=*", order, false},
+      {"MessageFormat=FIX", "MessageType=D", false},
+      {"Desk=LN", order, false},
+      {"Desk=NY Region=EU", order, false},
+      {"Desk=", order, false},
+      {"Region=", order, true},
+      {"Region=", "Region=", true},
+  };
+  for (const Case& each : cases) {
+    MessageConfiguration row;
+    fill(row, each.conditions);
+    const SmartPtr<DataObject> message(new Message(propertiesOf(each.message)));
+    EXPECT_EQ(row.isMatch(message.get()), each.fits) << each.conditions << " on " << each.message;
+  }
+}
+
+TEST(MessageRouter, firstRowThatFitsWins) {
+  Routing at;
+  at.addRow("MessageType=8", "input.format=B");
+  at.addRow("MessageType=D", "input.format=A");
+  at.addRow("MessageType=D Desk=NY", "input.format=B");
+  EXPECT_EQ(at.route({"MessageType=D Desk=NY", "MessageType=8"}), "A1 B1 ");
+  Message::reads = 0;
+  at.route({"MessageType=D"});
+  EXPECT_EQ(Message::reads, 1);  // once for all rows
+}
+
+TEST(MessageRouter, makesOneInstanceAName) {
+  Routing at;
+  at.addRow("MessageType=a", "input.format=A");
+  at.addRow("MessageType=b", "input.format=B");
+  EXPECT_EQ(at.route({"MessageType=a", "MessageType=a", "MessageType=b", "MessageType=a"}), "A1 A1 B1 A1 ");
+  at.router.clear();
+  at.addRow("", "input.format=B");
+  EXPECT_EQ(at.route({"MessageType=a"}), "B1 ");
+}
+
+TEST(MessageRouter, refusesWithTheContextUntouchedUntilTheRowIsCopied) {
+  Routing at;
+  at.context.setProperty("p", "before");
+  EXPECT_EQ(at.errorOn<UnrecognizedMessageException>("?"), "Unrecognized message format, p=before");
+  EXPECT_EQ(at.errorOn<UnhandledMessageException>("MessageType=a"), "Cannot handle message <Message/>, p=before");
+  at.addRow("MessageType=none", "p=row");
+  at.addRow("MessageType=empty", "p=row input.format=");
+  at.addRow("MessageType=unbound", "p=row1 input.format=Late");
+  at.addRow("MessageType=other", "p=row2 input.format=Other");
+  for (const char* message : {"MessageType=none", "MessageType=empty"}) {
+    EXPECT_EQ(at.errorOn<TransformException>(message),
+              "input.format property cannot be empty in the message configuration, p=before");
+  }
+  EXPECT_EQ(at.errorOn<NamingException>("MessageType=unbound"), "Unable to lookup 'Late', p=row1");
+  EXPECT_EQ(at.context.getProperty("input.format"), "Late");
+  EXPECT_EQ(at.errorOn<NamingException>("MessageType=other"), "Unable to lookup 'Other', p=row2");
+}
+
+TEST(MessageRouter, recoversFromAFailedLookUp) {
+  Routing at;
+  at.addRow("MessageType=a", "input.format=A");
+  at.addRow("MessageType=late", "input.format=Late");
+  EXPECT_EQ(at.route({"MessageType=a"}), "A1 ");
+  for (int i = 0; i < 2; ++i) {
+    EXPECT_EQ(at.errorOn<NamingException>("MessageType=late"), "Unable to lookup 'Late', p=");
+    EXPECT_EQ(at.route({"MessageType=a"}), "A1 ");  // the name used last, whose format the failure had put aside
+  }
+  at.registry->bind("Late", new FormatFactory("Late"));
+  EXPECT_EQ(at.route({"MessageType=late"}), "Late1 ");
+}
+
+TEST(MessageRouter, marksWhatPassesItFatal) {
+  Routing at;
+  at.addRow("MessageType=warn", "input.format=A p=row raise=warn");
+  at.addRow("MessageType=other", "input.format=A p=row2 raise=other");
+  Source warning("MessageType=warn");
+  try {
+    at.router.processMessage(warning, at.context);
+    FAIL();
+  } catch (const NamingException& error) {
+    EXPECT_EQ(error.getSeverity(), "fatal");
+    EXPECT_EQ(error.getMessage(), "from the format");
+  }
+  Source other("MessageType=other");
+  EXPECT_THROW(at.router.processMessage(other, at.context), std::runtime_error);
+  EXPECT_EQ(at.context.getProperty("p"), "row2");
+}
+
+TEST(MessageRouter, ownsTheServiceItIsGiven) {
+  Routing at;
+  Identifier::deleted = 0;
+  at.router.setMessageIdentificationService(serviceOf(new Identifier));
+  EXPECT_EQ(Identifier::deleted, 1);
+  at.router.clearMessageIdentificationService();
+  EXPECT_EQ(Identifier::deleted, 2);
+  EXPECT_EQ(at.errorOn<UnrecognizedMessageException>("MessageType=a"), "Unrecognized message format, p=");
+  MessageIdentificationService* const shared = MessageIdentificationService::getDefault();
+  {
+    MessageRouter onDefault;
+    onDefault.setMessageIdentificationService(serviceOf(new Identifier));
+    EXPECT_EQ(MessageIdentificationService::getDefault(), shared);
+    const MessageRouter given(serviceOf(new Identifier));
+  }
+  EXPECT_EQ(Identifier::deleted, 4);
+  Source source("?");  // the default is still alive
+  EXPECT_EQ(shared->identifyMessage(source), nullptr);
+}
+
+}  // namespace
+}  // namespace zarvik
