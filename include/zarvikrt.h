@@ -9,6 +9,7 @@
 #include "Conversion.h"
 #include "DataObject.h"
 #include "Exceptions.h"
+#include "GuardedCast.h"
 #include "IInputFormat.h"
 #include "ILookupContext.h"
 #include "InputSource.h"
