@@ -6,14 +6,18 @@
 #include <cstdint>
 #include <limits>
 
+#include "BigDecimal.h"
+#include "BigInteger.h"
 #include "Binary.h"
 #include "Exceptions.h"
 #include "ThrowFrom.h"
+#include "date/DateTime.h"
 
 namespace zarvik {
 namespace {
 
 constexpr char here[] = "cpp/Conversion";
+constinit const zkstringliteral datePattern("MMM dd, yyyy");
 
 /// The texts "00" to "99", one behind the other.
 constexpr auto digitPairs = [] {
@@ -250,7 +254,12 @@ __int64 v_atol(const char* begin, const char* end) {
 void v_itoa(int value, char* out) { putTerminated(out, value); }
 void v_ltoa(__int64 value, char* out) { putTerminated(out, value); }
 
+zkstring bigIntegerToString(const BigInteger& value) { return value.toString(); }
+void bigIntegerToString(const BigInteger& value, zkstring& out) { out = value.toString(); }
+zkstring bigDecimalToString(const BigDecimal& value) { return value.toString(); }
+void bigDecimalToString(const BigDecimal& value, zkstring& out) { out = value.toString(); }
 zkstring binaryToString(const Binary& value) { return value.toString(); }
+zkstring dateTimeToString(const DateTime& value) { return value.toString(datePattern); }
 
 zkstring intToString(int value) { return asString<intTextSize>(value); }
 void intToString(int value, zkstring& out) { fill(out, value, smallRoom); }
@@ -286,7 +295,11 @@ int boolToString(bool value, char* out) {
 }
 
 zkstring charToString(char value) { return zkstring(1, value); }
-void charToString(char value, zkstring& out) { out.assign(value); }
+
+void charToString(char value, zkstring& out) {
+  *out.getBuffer(smallRoom) = value;
+  out.setBufferLength(1);
+}
 
 int charToString(char value, char* out) {
   out[0] = value;
