@@ -14,6 +14,7 @@ install(FILES ${PROJECT_BINARY_DIR}/zarvikrtConfig.cmake ${PROJECT_BINARY_DIR}/z
 
 # The package file finds the prefix from where it lies itself, so that an installed tree may be moved.
 file(RELATIVE_PATH pcPrefix /prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig /prefix)
+string(REGEX REPLACE "/$" "" pcPrefix ${pcPrefix})
 set(pcLinkOptions "")
 if(NOT BUILD_SHARED_LIBS)
   set(pcLinkOptions "-Wl,--undefined=zarvikrtVersionRecord")

@@ -24,4 +24,25 @@ long long decimals(const MAPM& value) {
 zkstring BigDecimal::toString() const { return fixedPointText(cval(), decimals(*this)); }
 const char* BigDecimal::toString(char* out) const { return writeFixedPoint(out, cval(), decimals(*this)); }
 
+BigDecimal operator+(const BigDecimal& a, const BigDecimal& b) {
+  BigDecimal result;
+  m_apm_add(result.val(), a.cval(), b.cval());
+  return result;
+}
+
+BigDecimal operator-(const BigDecimal& a, const BigDecimal& b) {
+  BigDecimal result;
+  m_apm_subtract(result.val(), a.cval(), b.cval());
+  return result;
+}
+
+BigDecimal operator*(const BigDecimal& a, const BigDecimal& b) {
+  BigDecimal result;
+  m_apm_multiply(result.val(), a.cval(), b.cval());
+  return result;
+}
+
+BigDecimal operator/(const BigDecimal& a, const BigDecimal& b) { return BigDecimal(a.divide(b)); }
+BigDecimal operator%(const BigDecimal& a, const BigDecimal& b) { return BigDecimal(a.rem(b)); }
+
 }  // namespace zarvik

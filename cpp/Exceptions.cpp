@@ -36,12 +36,17 @@ zkstring Exception::toString() const { return Class(typeid(*this)).getName() + "
 
 Object* Exception::clone() const { return new Exception(*this); }
 
-TransformException::TransformException(const TransformException& other)
-    : Object(), Exception(other.getMessage()), severity(other.severity) {}
+TransformException::TransformException(const TransformException& other) : Object(), Exception(other.getMessage()) {
+  *this = other;
+}
 
 TransformException& TransformException::operator=(const TransformException& other) {
   setMessage(other.getMessage());
+  errorCode = other.errorCode;
   severity = other.severity;
+  fieldName = other.fieldName;
+  line = other.line;
+  column = other.column;
   return *this;
 }
 

@@ -20,7 +20,7 @@ class BigInteger : public MAPM {
   /// Blanks, a sign, digits with a point, an exponent behind `e`; anything else warns on standard error and is 0.
   BigInteger(const char* text) : MAPM(text) {}
   BigInteger(const zkstring& text);     ///< the same; a NUL ends the text
-  BigInteger(const BigDecimal& value);  ///< keeps a fraction
+  explicit BigInteger(const BigDecimal& value);  ///< keeps a fraction
 
   int toInt() const { return MAPM::toInt(); }  ///< toward zero; beyond `int` some other number, as with `atoi`
   __int64 toLong() const;                      ///< toward zero; beyond the range as `v_atol` fails

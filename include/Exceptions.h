@@ -50,16 +50,45 @@ class Exception : public virtual Object {
   mutable ExceptionTrace trace;
 };
 
-/// Gives a class of exceptions its own `clone`: `class E : public ExceptionClass<E, Base>` and nothing else.
+/// Gives a class of exceptions its constructor from the message and its own `clone`:
+/// `class E : public ExceptionClass<E, Base> { using ExceptionClass::ExceptionClass; }` and nothing else.
 template <class Self, class Base>
 class ExceptionClass : public Base {
  public:
-  using Base::Base;
+  ExceptionClass(const zkstring& message) : Base(message) {}
   Object* clone() const override { return new Self(static_cast<const Self&>(*this)); }
+
+ protected:
+  explicit ExceptionClass(const Base& other) : Base(other) {}  ///< takes over what `other` tells
+};
+
+/// A state of the library that its own code should have made impossible.
+class InternalError : public ExceptionClass<InternalError, Exception> {
+  using ExceptionClass::ExceptionClass;
+};
+
+/// An argument that the operation cannot take.
+class IllegalArgumentException : public ExceptionClass<IllegalArgumentException, Exception> {
+  using ExceptionClass::ExceptionClass;
+};
+
+/// A class name that nobody has registered.
+class ClassNotFoundException : public ExceptionClass<ClassNotFoundException, Exception> {
+  using ExceptionClass::ExceptionClass;
+};
+
+/// An object of another class than the one asked for: what `guardedCast` throws.
+class ClassCastException : public ExceptionClass<ClassCastException, Exception> {
+  using ExceptionClass::ExceptionClass;
+};
+
+/// A largest or smallest value of no values at all.
+class LocalInitializationException : public ExceptionClass<LocalInitializationException, Exception> {
+  using ExceptionClass::ExceptionClass;
 };
 
 /// The general error of the processing chain, with a severity: "fatal", "error" or "warn". A copy has the message and
-/// the severity; trace and detail stay behind.
+/// the data; trace and detail stay behind.
 class TransformException : public Exception {
  public:
   TransformException(const zkstring& message) : Exception(message) {}
@@ -67,13 +96,23 @@ class TransformException : public Exception {
   TransformException(const TransformException& other);
   TransformException& operator=(const TransformException& other);
 
+  zkstring getErrorCode() const { return errorCode; }
+  void setErrorCode(const zkstring& value) { errorCode = value; }
   zkstring getSeverity() const { return severity; }
   void setSeverity(const zkstring& value) { severity = value; }
+  zkstring getFFieldName() const { return fieldName; }
+  void setFFieldName(const zkstring& value) { fieldName = value; }
+  void setLine(int number) { line = number; }
+  void setColumn(int number) { column = number; }
 
   Object* clone() const override;
 
  private:
+  zkstring errorCode;
   zkstring severity = zkstringliteral("fatal");
+  zkstring fieldName;
+  int line = -1;
+  int column = -1;
 };
 
 /// A recognised message that no routing row accepts.
@@ -86,16 +125,6 @@ class UnrecognizedMessageException : public ExceptionClass<UnrecognizedMessageEx
   using ExceptionClass::ExceptionClass;
 };
 
-/// A look-up by name that found nothing fitting.
-class NamingException : public ExceptionClass<NamingException, TransformException> {
-  using ExceptionClass::ExceptionClass;
-};
-
-/// A field whose text cannot be read as its type.
-class FieldParsingException : public ExceptionClass<FieldParsingException, TransformException> {
-  using ExceptionClass::ExceptionClass;
-};
-
 /// An error of a formula at run time.
 class TransformRuntimeException : public ExceptionClass<TransformRuntimeException, TransformException> {
   using ExceptionClass::ExceptionClass;
@@ -104,6 +133,92 @@ class TransformRuntimeException : public ExceptionClass<TransformRuntimeExceptio
 /// A null value where a value was needed.
 class TransformNullValueException : public ExceptionClass<TransformNullValueException, TransformRuntimeException> {
   using ExceptionClass::ExceptionClass;
+};
+
+/// A field name or a field index that the object does not have.
+class FieldNotFoundException : public ExceptionClass<FieldNotFoundException, TransformException> {
+  using ExceptionClass::ExceptionClass;
+};
+
+/// A value of another type than the field's.
+class FieldTypeMismatchException : public ExceptionClass<FieldTypeMismatchException, TransformException> {
+  using ExceptionClass::ExceptionClass;
+};
+
+/// A field without value that must have one.
+class FieldNullException : public ExceptionClass<FieldNullException, TransformException> {
+  using ExceptionClass::ExceptionClass;
+};
+
+/// A field whose text cannot be read as its type.
+class FieldParsingException : public ExceptionClass<FieldParsingException, TransformException> {
+ public:
+  using ExceptionClass::ExceptionClass;
+  FieldParsingException(const zkstring& message, const zkstring& fieldName) : ExceptionClass(message) {
+    setFFieldName(fieldName);
+  }
+};
+
+/// A field whose value breaks a rule.
+class FieldValidationException : public ExceptionClass<FieldValidationException, TransformException> {
+ public:
+  FieldValidationException(const zkstring& message, const zkstring& fieldName) : ExceptionClass(message) {
+    setFFieldName(fieldName);
+  }
+};
+
+/// A look-up by name that found nothing fitting.
+class NamingException : public ExceptionClass<NamingException, TransformException> {
+  using ExceptionClass::ExceptionClass;
+};
+
+/// A section with too few or too many elements.
+class SectionConstraintException : public ExceptionClass<SectionConstraintException, TransformException> {
+  using ExceptionClass::ExceptionClass;
+};
+
+/// An FCS message that cannot be read; knows the line that failed.
+class FCSParseException : public ExceptionClass<FCSParseException, TransformException> {
+ public:
+  using ExceptionClass::ExceptionClass;
+  FCSParseException(const TransformException& error) : ExceptionClass(error) {}
+
+  void setFailedLine(const zkstring& text) { failedLine = text; }
+  void setLocation(int line, int column) {
+    setLine(line);
+    setColumn(column);
+  }
+
+ private:
+  zkstring failedLine;
+};
+
+/// A FIX message that cannot be read.
+class FIXParsingException : public ExceptionClass<FIXParsingException, TransformException> {
+ public:
+  using ExceptionClass::ExceptionClass;
+  FIXParsingException(const TransformException& error) : ExceptionClass(error) {}
+};
+
+/// A FIX message that cannot be written.
+class FIXWriterException : public ExceptionClass<FIXWriterException, TransformException> {
+ public:
+  using ExceptionClass::ExceptionClass;
+  FIXWriterException(const TransformException& error) : ExceptionClass(error) {}
+};
+
+/// A SIAC Canonical message that cannot be read.
+class SIACCanonicalParsingException : public ExceptionClass<SIACCanonicalParsingException, TransformException> {
+ public:
+  using ExceptionClass::ExceptionClass;
+  SIACCanonicalParsingException(const TransformException& error) : ExceptionClass(error) {}
+};
+
+/// A SIAC Canonical message that cannot be written.
+class SIACCanonicalWriterException : public ExceptionClass<SIACCanonicalWriterException, TransformException> {
+ public:
+  using ExceptionClass::ExceptionClass;
+  SIACCanonicalWriterException(const TransformException& error) : ExceptionClass(error) {}
 };
 
 }  // namespace zarvik

@@ -2,23 +2,22 @@
 
 #include "Record.h"
 
-namespace {
+namespace zarvik::mapm {
 
-int signOf(int difference) { return (difference > 0) - (difference < 0); }
-
-/// By exponent, then digit by digit; where all agree the longer number is the greater.
 int compareMagnitudes(const M_APM_struct* a, const M_APM_struct* b) {
   if (a->exponent != b->exponent) return a->exponent < b->exponent ? -1 : 1;
-  const int common = std::min(zarvik::mapm::byteCount(a), zarvik::mapm::byteCount(b));
+  const int common = std::min(byteCount(a), byteCount(b));
   const int order = std::memcmp(a->data, b->data, static_cast<std::size_t>(common));
-  return signOf(order != 0 ? order : a->dataLength - b->dataLength);
+  const int difference = order != 0 ? order : a->dataLength - b->dataLength;
+  return (difference > 0) - (difference < 0);
 }
-}  // namespace
+
+}  // namespace zarvik::mapm
 
 int m_apm_compare(const M_APM_struct* a, const M_APM_struct* b) {
   if (a == b) return 0;
   if (a->sign != b->sign) return a->sign < b->sign ? -1 : 1;
-  return a->sign == 0 ? 0 : a->sign * compareMagnitudes(a, b);
+  return a->sign == 0 ? 0 : a->sign * zarvik::mapm::compareMagnitudes(a, b);
 }
 
 bool m_apm_is_integer(const M_APM_struct* a) { return a->sign == 0 || a->exponent >= a->dataLength; }

@@ -87,3 +87,44 @@ char* MAPM::toFixPtStringExp(int places, char point, char separator, int group) 
 void MAPM::toIntegerString(char* out) const {
   if (!isTooLong(cval()->exponent, out)) m_apm_to_integer_string(out, cval());
 }
+
+MAPM MAPM::divide(const MAPM& other, int digits) const {
+  MAPM result;
+  m_apm_divide(result.val(), digits, cval(), other.cval());
+  return result;
+}
+
+MAPM MAPM::integer_divide(const MAPM& other) const {
+  MAPM result;
+  m_apm_integer_divide(result.val(), cval(), other.cval());
+  return result;
+}
+
+void MAPM::integer_div_rem(const MAPM& other, MAPM& quotient, MAPM& remainder) const {
+  MAPM whole = integer_divide(other);
+  MAPM product;
+  MAPM rest;
+  m_apm_multiply(product.val(), whole.cval(), other.cval());
+  m_apm_subtract(rest.val(), cval(), product.cval());
+  quotient = static_cast<MAPM&&>(whole);
+  remainder = static_cast<MAPM&&>(rest);
+}
+
+MAPM MAPM::rem(const MAPM& other) const {
+  MAPM quotient;
+  MAPM remainder;
+  integer_div_rem(other, quotient, remainder);
+  return remainder;
+}
+
+MAPM& MAPM::operator++() {
+  MAPM sum;
+  m_apm_add(sum.val(), cval(), MAPM(1).cval());
+  return *this = static_cast<MAPM&&>(sum);
+}
+
+MAPM MAPM::operator++(int) {
+  MAPM before = *this;
+  ++*this;
+  return before;
+}

@@ -104,15 +104,6 @@ void refuse(M_APM_struct* number, const char* warning) {
 
 namespace {
 
-/// Eight base-100 bytes, lowest first in memory: tens into `tens`, the rest of each byte is returned.
-std::uint64_t splitTens(std::uint64_t word, std::uint64_t& tens) {
-  constexpr std::uint64_t even = 0x00FF00FF00FF00FF;
-  const std::uint64_t low = ((word & even) * 103 >> 10) & 0x000F000F000F000F;
-  const std::uint64_t high = (((word >> 8) & even) * 103 >> 10) & 0x000F000F000F000F;
-  tens = low | high << 8;
-  return word - 10 * tens;
-}
-
 /// Moves all digits one place to the front; the first one is a zero. Whole padded words, read ahead of the writing.
 void dropLeadingDigit(unsigned char* data, int bytes) {
   const int words = paddedBytes(bytes) / 8;
@@ -132,6 +123,17 @@ int leadingZeroBytes(const unsigned char* data, int bytes) {
   while (zeros < bytes && data[zeros] == 0) ++zeros;
   return zeros;
 }
+
+/// Bytes left without the zeros at the end; there is a byte that is not zero.
+int withoutTrailingZeros(const unsigned char* data, int bytes) {
+  while (bytes >= 8) {
+    const std::uint64_t last = loadLow(data + bytes - 8);
+    if (last != 0) return bytes - std::countl_zero(last) / 8;
+    bytes -= 8;
+  }
+  while (data[bytes - 1] == 0) --bytes;
+  return bytes;
+}
 }  // namespace
 
 void normalise(M_APM_struct* number, int bytes, long long exponent, int sign) {
@@ -148,7 +150,7 @@ void normalise(M_APM_struct* number, int bytes, long long exponent, int sign) {
     dropLeadingDigit(data, bytes);
     --exponent;
   }
-  while (data[bytes - 1] == 0) --bytes;
+  bytes = withoutTrailingZeros(data, bytes);
   if (exponent > std::numeric_limits<int>::max() || exponent < -std::numeric_limits<int>::max())
     return refuse(number, "'m_apm_normalize', Exponent out of range");
   number->dataLength = 2 * bytes - (data[bytes - 1] % 10 == 0 ? 1 : 0);

@@ -29,6 +29,14 @@ inline void storeLow(void* bytes, std::uint64_t word) {
   std::memcpy(bytes, &word, sizeof word);
 }
 
+/// Eight base-100 bytes: the tens of each go into `tens`, the units are returned.
+inline std::uint64_t splitTens(std::uint64_t word, std::uint64_t& tens) {
+  constexpr std::uint64_t lanes = 0x00FF00FF00FF00FF;
+  constexpr std::uint64_t digit = 0x000F000F000F000F;
+  tens = (((word & lanes) * 103 >> 10) & digit) | (((word >> 8 & lanes) * 103 >> 10) & digit) << 8;
+  return word - 10 * tens;
+}
+
 /// Digits for `bytes` bytes and their padding; the old digits are lost. Never fails, but may end the process.
 unsigned char* makeRoom(M_APM_struct* number, int bytes);
 
@@ -47,6 +55,10 @@ void normalise(M_APM_struct* number, int bytes, long long exponent, int sign);
 
 /// The first `keep` digits of `a`, half away from zero. `keep` may be anything: from the length on, a copy.
 void roundToDigits(M_APM_struct* result, long long keep, const M_APM_struct* a);
+
+/// -1, 0 or 1, for two numbers that are not zero: by exponent, then digit by digit; where all agree the longer one is
+/// the greater.
+int compareMagnitudes(const M_APM_struct* a, const M_APM_struct* b);
 
 /// A number of the kernel's own for the length of a block.
 class Temporary {

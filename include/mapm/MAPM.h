@@ -21,7 +21,7 @@ constexpr int M_APM_IDENT = 0x6BCC9AE5;
 
 /// Numbers of more digits than this are refused with a warning instead of being built, and so are texts of more
 /// characters: a few bytes of input such as "1e2000000000" must not cost gigabytes.
-constexpr int M_APM_MAX_DIGITS = 1 << 26;
+constexpr int M_APM_MAX_DIGITS = 1 << 24;
 
 /// Prints "MAPM Warning: <message>" on standard error; a fatal one is "MAPM Error: <message>" and ends the process with
 /// code 100.
