@@ -1,0 +1,77 @@
+#include "Resources.h"
+
+#include <cstdint>
+
+#include "PropertyResourceBundle.h"
+#include "Support.h"
+
+namespace zarvik {
+namespace {
+
+/// What a static initialiser finds: initialised with the constants of this file, in no order that matters.
+const zkstring seenAtStartUp = Resources::getProperty("SRT130.code");
+
+/// FNV-1a of "key=value\n" over all entries of `bundle` whose names begin with `prefix`, and their number.
+std::pair<int, std::uint64_t> fingerprint(const char* bundle, const std::string& prefix) {
+  int count = 0;
+  std::uint64_t hash = 0xcbf29ce484222325;
+  for (int number = 0; number < 1000; ++number) {
+    for (const char* ending : {".code", ".message"}) {
+      const std::string key = prefix + std::to_string(number) + ending;
+      const zkstring value = Resources::getProperty(bundle, key.c_str());
+      if (value.empty()) continue;
+      ++count;
+      for (const char c : key + "=" + std::string(value.data(), value.length()) + "\n") {
+        hash = (hash ^ static_cast<unsigned char>(c)) * 0x100000001b3;
+      }
+    }
+  }
+  return {count, hash};
+}
+
+TEST(Resources, holdsTheTwoCatalogues) {
+  EXPECT_EQ(seenAtStartUp, "SRT23");
+  // Counted and hashed from the published tables, outside this code.
+  EXPECT_EQ(fingerprint("RuntimeResources", "SRT"), std::pair(2 * 122, std::uint64_t{0xb347dc25762dec42}));
+  EXPECT_EQ(fingerprint("UniversalResources", "UNV"), std::pair(2 * 32, std::uint64_t{0xee3893a74b7e8bfc}));
+}
+
+TEST(Resources, looksInAllBundlesOrInOne) {
+  struct Row {
+    zkstring found;
+    const char* expected;
+  };
+  const Row rows[] = {
+      {Resources::getProperty("UNV119.message"), "Mandatory field ''{0}'' is missing"},
+      {Resources::getProperty(zkstring("SRT277.code")), "SRT62"},
+      {Resources::getProperty("UNV132.code"), ""},
+      {Resources::getProperty("UniversalResources", "UNV100.code"), "UNV00"},
+      {Resources::getProperty("RuntimeResources", "UNV100.code"), ""},
+      {Resources::getProperty("OtherResources", "UNV100.code"), ""},
+  };
+  for (const Row& row : rows) EXPECT_EQ(row.found, row.expected);
+}
+
+TEST(Resources, keepsFirstBundlesAndFirstValues) {
+  PropertyResourceBundle first;
+  first.addProperty("k", "one");
+  first.addProperty("k", "two");
+  EXPECT_EQ(first.getProperty("k"), "one");
+  Resources resources;
+  resources.addResourceBundle("Own", first);
+  resources.addResourceBundle("Own", PropertyResourceBundle());
+  EXPECT_EQ(resources.getBundle("Own"), &first);
+  EXPECT_EQ(resources.getBundle("Other"), nullptr);
+}
+
+TEST(Resources, passesOverEmptyValues) {
+  static PropertyResourceBundle early;  // stays registered in the process-wide set
+  early.addProperty("SRT100.code", "");
+  early.addProperty("ResourcesTest.key", "found");
+  Resources::getDefaultResources().addResourceBundle("AResourcesTest", early);
+  EXPECT_EQ(Resources::getProperty("SRT100.code"), "SRT00");
+  EXPECT_EQ(Resources::getProperty("ResourcesTest.key"), "found");
+}
+
+}  // namespace
+}  // namespace zarvik
