@@ -81,9 +81,9 @@ void DataObjectMetaInfo::indexNames() {
 }
 
 FieldMetaInfo* DataObjectMetaInfo::find(const zkstring& fieldName) const {
-  const auto place = std::lower_bound(
-      byName.begin(), byName.end(), fieldName,
-      [](const FieldMetaInfo* field, const zkstring& wanted) { return field->getName() < wanted; });
+  const auto place =
+      std::lower_bound(byName.begin(), byName.end(), fieldName,
+                       [](const FieldMetaInfo* field, const zkstring& wanted) { return field->getName() < wanted; });
   return place != byName.end() && (*place)->getName() == fieldName ? *place : nullptr;
 }
 
