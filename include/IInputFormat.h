@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Object.h"
+#include "IService.h"
 
 namespace zarvik {
 
@@ -10,7 +10,7 @@ class TransformContext;
 /// The entry of routed inputs of one format: parses a source and hands the result on to its internal message.
 ///
 /// A format keeps state from one message to the next, so one instance serves one thread at a time.
-class IInputFormat : public ObjectRef {
+class IInputFormat : public IService {
  public:
   virtual void processInput(InputSource& source, TransformContext& context) = 0;
 };

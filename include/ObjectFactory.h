@@ -7,7 +7,7 @@ namespace zarvik {
 /// Makes objects of one class, for those who know the class by name only.
 class ObjectFactory : public Object {
  public:
-  virtual Object* newInstance() = 0;  ///< a new object, which belongs to the caller
+  virtual Object* newInstance() = 0;  ///< a new object, with count 0 if it is counted, which belongs to the caller
 };
 
 /// Makes objects of class `T` with their default constructor.

@@ -1,0 +1,7 @@
+#include "StartUp.h"
+
+namespace zarvik {
+
+void registerLibraryClasses() {}
+
+}  // namespace zarvik
