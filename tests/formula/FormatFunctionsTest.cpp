@@ -1,0 +1,107 @@
+#include "formula/FormatFunctions.h"
+
+#include <cmath>
+#include <cstdio>
+
+#include "Support.h"
+
+namespace zarvik {
+namespace {
+
+TEST(FormatFunctions, tellsWhatIsANumber) {
+  struct Row {
+    const char* text;
+    bool isInt;
+    bool isLong;
+    bool isDouble;
+  };
+  constexpr Row rows[] = {
+      {"", false, true, false},
+      {"12", true, true, true},
+      {"-", false, true, false},
+      {"+5", true, true, true},
+      {"5+", false, false, true},
+      {"12-3", true, false, true},
+      {"--5-", true, false, false},
+      {" 5", false, false, false},
+      {"1.5e3", false, false, true},
+      {"1.5x", false, false, false},
+      {"nan", false, false, false},
+      {"2147483647", true, true, true},
+      {"2147483648", false, true, true},
+      {"9999999999", true, true, true},  // wraps into the range
+      {"1-2-3-4-5-6", false, false, true},
+      {"9223372036854775808", false, false, true},
+      {"123456789012345678901234567890123456.5", false, false, true},
+  };
+  for (const Row& row : rows) {
+    EXPECT_EQ(FormatFunctions::isInt(row.text), row.isInt) << row.text;
+    EXPECT_EQ(FormatFunctions::isLong(row.text), row.isLong) << row.text;
+    EXPECT_EQ(FormatFunctions::isDouble(row.text), row.isDouble) << row.text;
+    EXPECT_EQ(FormatFunctions::isFloat(row.text), row.isDouble) << row.text;
+  }
+}
+
+TEST(FormatFunctions, scansAsTheCLibraryDoes) {
+  for (const char* text : {"12abc", " \t-7", "+0012", "2147483647", "-2147483648", "1.5e-3x", "0x1p3", "7e", ".5",
+                           "inf", "1234567890123456789012345678901234567.25"}) {
+    int integer = 0;
+    double number = 0;
+    const bool isInteger = std::sscanf(text, "%d", &integer) == 1;
+    const bool isNumber = std::sscanf(text, "%lf", &number) == 1;
+    if (isInteger && std::abs(number) < 3e9) {
+      EXPECT_EQ(FormatFunctions::toInt(zkstring(text)), integer) << text;
+    }
+    if (isNumber) {
+      EXPECT_EQ(FormatFunctions::toDouble(zkstring(text)), number) << text;
+      EXPECT_EQ(FormatFunctions::toFloat(zkstring(text)), static_cast<float>(number)) << text;
+    }
+  }
+  const zkstringliteral literal("12345");
+  EXPECT_EQ(FormatFunctions::toInt(literal.substr(1, 2)), 23);  // a slice ends where it ends
+}
+
+TEST(FormatFunctions, failsWithoutANumber) {
+  for (const char* text : {"", "abc", "-", "'"}) {
+    const std::string begin = std::string("Formula execution error. Cannot convert '") + text + "' to ";
+    EXPECT_EQ(errorOf<TransformRuntimeException>([&] { FormatFunctions::toInt(zkstring(text)); }), begin + "int");
+    EXPECT_EQ(errorOf<TransformRuntimeException>([&] { FormatFunctions::toDouble(zkstring(text)); }), begin + "double");
+    EXPECT_EQ(errorOf<TransformRuntimeException>([&] { FormatFunctions::toFloat(zkstring(text)); }), begin + "float");
+  }
+}
+
+TEST(FormatFunctions, convertsBetweenKinds) {
+  EXPECT_EQ(FormatFunctions::toChar(""), ' ');
+  EXPECT_EQ(FormatFunctions::toChar("xyz"), 'x');
+  EXPECT_EQ(FormatFunctions::toInt('\xFF'), -1);
+  EXPECT_EQ(FormatFunctions::toLong(zkstring("-12")), -12);
+  EXPECT_EQ(FormatFunctions::toInt(BigDecimal("-2.9")), -2);
+  EXPECT_EQ(FormatFunctions::toLong(BigInteger("12345678901")), 12345678901);
+  EXPECT_EQ(FormatFunctions::toDouble(BigDecimal("2.5")), 2.5);
+  EXPECT_EQ(FormatFunctions::toFloat(BigInteger("3")), 3.0F);
+  EXPECT_EQ(FormatFunctions::toBigDecimal(0.1).toString(), "0.1");
+  EXPECT_EQ(FormatFunctions::toBigDecimal(BigInteger("7")).toString(), "7");
+  EXPECT_EQ(BigDecimal(FormatFunctions::toBigInteger(2.5)).toString(), "2.5");  // the fraction is kept
+  EXPECT_EQ(BigDecimal(FormatFunctions::toBigInteger("0.5")).toString(), "0.5");
+  EXPECT_EQ(FormatFunctions::toText(0.5), "0.5");
+  EXPECT_EQ(FormatFunctions::toText('c'), "c");
+  EXPECT_EQ(FormatFunctions::toText("chars"), "chars");
+  EXPECT_EQ(FormatFunctions::toText(BigInteger("120")), "120");
+  zkstringbuffer buffer("text");
+  EXPECT_EQ(&FormatFunctions::toText(buffer), &buffer);
+}
+
+TEST(FormatFunctions, readsAndPrintsDates) {
+  const DateTime date = FormatFunctions::parseDate("Feb 29, 2024");
+  EXPECT_EQ(FormatFunctions::formatDate(date), "Feb 29, 2024");
+  EXPECT_EQ(FormatFunctions::formatDate(date, "dd.MM.yyyy"), "29.02.2024");
+  const zkstring longPattern(300, '-');
+  EXPECT_EQ(FormatFunctions::formatDate(date, longPattern + "yyyy"), longPattern + "2024");
+  EXPECT_TRUE(FormatFunctions::isDate("20240229", "yyyyMMdd"));
+  EXPECT_FALSE(FormatFunctions::isDate("20230229", "yyyyMMdd"));
+  EXPECT_FALSE(FormatFunctions::isDate("2024", "yyyyMMdd"));
+  EXPECT_EQ(FormatFunctions::format("{0}!", ObjectList("x")), "x!");
+}
+
+}  // namespace
+}  // namespace zarvik
