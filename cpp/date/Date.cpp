@@ -1,6 +1,7 @@
 #include "date/Date.h"
 
 #include <cstdio>
+#include <cstdlib>
 #include <ctime>
 #include <limits>
 
@@ -12,10 +13,12 @@ constexpr __int64 floorDivide(__int64 a, __int64 b) { return a >= 0 ? a / b : -(
 
 bool droppedByTheReform(int year, int month, int day) { return year == 1582 && month == 10 && day >= 5 && day <= 14; }
 
-/// The low end of the range for counts that no `int` holds, which only years far outside the calendar have.
-int toDayCount(__int64 days) {
+/// So many days; the low end of the range for counts that no `int` holds, which only years far outside the calendar
+/// have.
+TimeSpan spanOf(__int64 days) {
   using Limits = std::numeric_limits<int>;
-  return days < Limits::min() || days > Limits::max() ? Limits::min() : static_cast<int>(days);
+  if (days < Limits::min() || days > Limits::max()) days = Limits::min();
+  return TimeSpan(std::abs(days) * TimeDefs::SECONDS_IN_DAY);
 }
 }  // namespace
 
@@ -28,7 +31,7 @@ TimeSpan Date::pack(int year, int month, int day) {
   const __int64 monthOfYear = months - floorDivide(months, 12) * 12;
   __int64 days = floorDivide(2 * monthOfYear + 7 + 365 * months, 12) + day + floorDivide(months, 48) - 32083;
   if (days > TimeDefs::LAST_JULIAN_CALENDAR_DAY) days += floorDivide(months, 4800) - floorDivide(months, 1200) + 38;
-  return TimeSpan(toDayCount(days), 0, 0, 0, 0);
+  return spanOf(days);
 }
 
 void Date::unpack(const TimeSpan& span, int& year, int& month, int& day) {

@@ -20,12 +20,6 @@ DateStr::Fields fieldsOf(const DateTime& value) {
           value.getMinutes(), value.getSeconds(), value.getMilliSeconds()};
 }
 
-DateTime read(std::string_view text, std::string_view pattern) {
-  const DateStr::Fields fields = DateStr::read(text, pattern);
-  return DateTime(fields.year, fields.month, fields.day, fields.hours, fields.minutes, fields.seconds,
-                  fields.milliseconds);
-}
-
 /// Odd on purpose: days of the month are compared as they stand, so that the turn of a month gives a wrong offset.
 int takeLocalOffset() {
   const std::time_t instant = std::time(nullptr);
@@ -47,7 +41,7 @@ const DateTime& epoch() {
 }
 }  // namespace
 
-unsigned int DateTime::asString(char* out, unsigned int /*size*/, const char* pattern) const {
+unsigned int DateTime::print(char* out, std::string_view pattern) const {
   char* const end = DateStr::print(out, fieldsOf(*this), pattern);
   *end = '\0';
   return static_cast<unsigned int>(end - out);
@@ -67,15 +61,7 @@ zkstring DateTime::toString(const zkstring& pattern) const {
   return result;
 }
 
-DateTime DateTime::fromString(const char* text, const char* pattern) { return read(text, pattern); }
-
-DateTime DateTime::fromString(const char* text, unsigned int length, const char* pattern) {
-  return read({text, length}, pattern);
-}
-
-DateTime DateTime::fromString(const zkstring& text, const zkstring& pattern) {
-  return read({text.data(), text.length()}, {pattern.data(), pattern.length()});
-}
+DateTime DateTime::read(std::string_view text, std::string_view pattern) { return DateStr::read(text, pattern); }
 
 __int64 DateTime::toTimestamp() const { return (*this - epoch()).elapsedseconds() * 1000 + getMilliSeconds(); }
 

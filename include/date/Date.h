@@ -46,7 +46,7 @@ class Date {
  private:
   static int daysInMonth(int year, int month);
   static bool isDayInMonth(int year, int month, int day) {
-    return day >= 1 && (day <= 21 || day <= daysInMonth(year, month));  // 21 days are in every month
+    return day >= 1 && ((day < 28 && year != 1582) || day <= daysInMonth(year, month));  // the first is quick
   }
   static bool isLeapYear(int year);
   static bool isValidDate(int year, int month, int day) {

@@ -2,6 +2,8 @@
 
 #include <string_view>
 
+#include "date/DateTime.h"
+
 namespace zarvik {
 
 /// The pattern engine of the dates: prints and reads the seven fields by patterns such as "yyyyMMdd-HH:mm:ss.SSS".
@@ -39,9 +41,9 @@ class DateStr {
   /// Prints to `out`, which has room for it, without a terminator, and gives the end. The year's sign is dropped.
   static char* print(char* out, const Fields& fields, std::string_view pattern);
 
-  /// Does not check the fields' ranges. Throws TransformRuntimeException for a run that cannot be read, a month name
-  /// or literal that is not there, and text left over.
-  static Fields read(std::string_view text, std::string_view pattern);
+  /// Throws TransformRuntimeException for a run that cannot be read, a month name or literal that is not there, text
+  /// left over, and fields that are not in the calendar.
+  static DateTime read(std::string_view text, std::string_view pattern);
 };
 
 }  // namespace zarvik

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 #include "date/Date.h"
 #include "date/Time.h"
 
@@ -51,14 +53,20 @@ class DateTime {
 
   /// Prints by `pattern` and terminates; the result is the length. `size` is no bound: `out` has room for the text,
   /// which is at most twice as long as the pattern with every run of letters written to its full width.
-  unsigned int asString(char* out, unsigned int size, const char* pattern) const;
+  unsigned int asString(char* out, unsigned int /*size*/, const char* pattern) const {
+    return print(out, std::string_view(pattern));  // here, so that constant patterns are measured by the compiler
+  }
   zkstring toString(const zkstring& pattern) const;  ///< allocates the result alone
 
   /// Reads `text` by `pattern`; fields that the pattern lacks are those of 1 January 1970, 00:00. Nothing behind the
   /// text's end is looked at. Throws TransformRuntimeException, with the texts that DateStr.h tells of as well.
-  static DateTime fromString(const char* text, const char* pattern);
-  static DateTime fromString(const char* text, unsigned int length, const char* pattern);
-  static DateTime fromString(const zkstring& text, const zkstring& pattern);
+  static DateTime fromString(const char* text, const char* pattern) { return read(text, pattern); }
+  static DateTime fromString(const char* text, unsigned int length, const char* pattern) {
+    return read({text, length}, pattern);
+  }
+  static DateTime fromString(const zkstring& text, const zkstring& pattern) {
+    return read({text.data(), text.length()}, {pattern.data(), pattern.length()});
+  }
 
   /// Milliseconds since 1970 in UTC, read as local time by the offset of `localOffset`. Odd on purpose: a moment
   /// before 1970 gives its distance too.
@@ -72,6 +80,8 @@ class DateTime {
   static int localOffset();
 
  private:
+  unsigned int print(char* out, std::string_view pattern) const;
+  static DateTime read(std::string_view text, std::string_view pattern);
   [[noreturn]] void throwInvalid() const;
 
   Date date;
