@@ -27,7 +27,7 @@ class Object {
   static const zkstringliteral OBJECT_TYPE;
 
   Object(const Object& /*other*/) {}                            ///< copies nothing
-  Object& operator=(const Object& /*other*/) { return *this; }  // NOLINT(bugprone-unhandled-self-assignment)
+  Object& operator=(const Object& /*other*/) { return *this; }
 
   virtual void addRef();
   virtual void releaseRef();

@@ -18,11 +18,11 @@ class SmartPtr {
   SmartPtr(SmartPtr&& other) noexcept : pointer(std::exchange(other.pointer, nullptr)) {}
   ~SmartPtr() noexcept(false) { release(); }
 
-  SmartPtr& operator=(const SmartPtr& other) {  // NOLINT(bugprone-unhandled-self-assignment): by contract
+  SmartPtr& operator=(const SmartPtr& other) {
     reset(other.pointer);
     return *this;
   }
-  SmartPtr& operator=(SmartPtr&& other) {  // NOLINT(performance-noexcept-move-constructor): letting go may throw
+  SmartPtr& operator=(SmartPtr&& other) {  // not noexcept: letting go may throw
     SmartPtr taken(std::move(other));      // so that moving to itself does no harm
     std::swap(pointer, taken.pointer);
     return *this;
