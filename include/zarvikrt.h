@@ -14,6 +14,7 @@
 #include "DataObjectXML.h"
 #include "Exceptions.h"
 #include "FieldMetaInfo.h"
+#include "FromCatalogue.h"
 #include "GuardedCast.h"
 #include "ICustomClass.h"
 #include "IExternalMapping.h"
