@@ -92,6 +92,7 @@ void cut(M_APM_struct* number, long long keep) {
   const int digits = static_cast<int>(keep);
   const int bytes = bytesOf(digits);
   if (digits % 2 != 0) number->data[bytes - 1] = static_cast<unsigned char>(number->data[bytes - 1] / 10 * 10);
+  pad(number->data, bytes);
   normalise(number, bytes, number->exponent, number->sign);
 }
 

@@ -79,7 +79,7 @@ char* MAPM::toFixPtStringExp(int places, char point, char separator, int group) 
   const long long length = m_apm_fixpt_length({places, point, separator, group}, cval());
   char* const out =
       static_cast<char*>(std::malloc(length <= M_APM_MAX_DIGITS ? static_cast<std::size_t>(length) + 1 : 1));
-  if (out == nullptr) M_apm_log_error_msg(true, "'m_apm_to_fixpt_stringexp', Out of memory");
+  if (out == nullptr) zarvik::mapm::outOfMemory("'m_apm_to_fixpt_stringexp', Out of memory");
   toFixPtStringEx(out, places, point, separator, group);
   return out;
 }

@@ -1,7 +1,5 @@
 #include <algorithm>
-#include <cmath>
 #include <cstdio>
-#include <memory>
 
 #include "Record.h"
 
@@ -26,23 +24,24 @@ std::uint32_t pairs(std::uint64_t chars) {
   return static_cast<std::uint32_t>(chars | chars >> 16);
 }
 
-/// Packs `count` characters, two to a byte and with a zero added to an odd one; false if one is no digit.
-bool pack(unsigned char* out, const char* text, std::size_t count) {
-  std::size_t i = 0;
-  for (; i + 8 <= count; i += 8) {
-    const std::uint64_t chars = loadLow(text + i);
-    if (!areDigits(chars)) return false;
-    const std::uint32_t bytes = pairs(chars);
-    for (int k = 0; k < 4; ++k) out[i / 2 + static_cast<std::size_t>(k)] = static_cast<unsigned char>(bytes >> 8 * k);
-  }
-  if (i == count) return true;
+void storeHalf(unsigned char* bytes, std::uint32_t word) {
+  if (std::endian::native != std::endian::little) word = __builtin_bswap32(word);
+  std::memcpy(bytes, &word, sizeof word);
+}
+
+/// Packs `count` digits, two to a byte and with a 0 added for an odd one.
+void pack(unsigned char* out, const char* text, std::size_t count) {
+  for (; count >= 8; text += 8, count -= 8, out += 4) storeHalf(out, pairs(loadLow(text)));
   char rest[8] = {'0', '0', '0', '0', '0', '0', '0', '0'};
-  std::copy(text + i, text + count, rest);
-  const std::uint64_t chars = loadLow(rest);
-  if (!areDigits(chars)) return false;
-  const std::uint32_t bytes = pairs(chars);
-  for (; i < count; i += 2) out[i / 2] = static_cast<unsigned char>(bytes >> 4 * (i % 8));
-  return true;
+  std::copy_n(text, count, rest);
+  if (count != 0) storeHalf(out, pairs(loadLow(rest)));  // four bytes at most, so within the padding
+}
+
+/// The first character that is no digit.
+const char* behindDigits(const char* text, const char* end) {
+  while (end - text >= 8 && areDigits(loadLow(text))) text += 8;
+  while (text != end && *text >= '0' && *text <= '9') ++text;
+  return text;
 }
 
 bool isSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
@@ -58,59 +57,54 @@ long long readExponent(const char* text, const char* end) {
   return negative ? -value : value;
 }
 
-/// Digits without the point, in one piece: where they lie if there is no point, else in a buffer.
-class Digits {
- public:
-  Digits(const char* begin, const char* point, const char* end)
-      : first(begin), count(static_cast<std::size_t>(end - begin)) {
-    if (point == end) return;
-    --count;
-    char* const buffer = count <= sizeof small ? small : (large = std::make_unique_for_overwrite<char[]>(count)).get();
-    std::copy(point + 1, end, std::copy(begin, point, buffer));
-    first = buffer;
-  }
-
-  const char* first;
-  std::size_t count;
-
- private:
-  char small[256];
-  std::unique_ptr<char[]> large;
-};
-
-const char* findAny(const char* begin, const char* end, char lower, char upper) {
-  const auto find = [begin](const char* to, char c) {
-    const void* const found = std::memchr(begin, c, static_cast<std::size_t>(to - begin));
-    return found != nullptr ? static_cast<const char*>(found) : to;
-  };
-  return begin == end ? end : find(find(end, lower), upper);
+/// Packs the digits before and behind the point as if they stood together; `out` has room for `count` and padding.
+void packAround(unsigned char* out, const char* begin, const char* point, const char* end) {
+  const std::size_t before = static_cast<std::size_t>(point - begin);
+  const std::size_t behind = static_cast<std::size_t>(end - point - 1);
+  pack(out, begin, before);
+  out += before / 2;
+  if (before % 2 == 0) return pack(out, point + 1, behind);
+  if (behind == 0) return;
+  *out = static_cast<unsigned char>(*out + (point[1] - '0'));  // shares a byte with the digit before the point
+  pack(out + 1, point + 2, behind - 1);
 }
 
 void readUnsigned(M_APM_struct* result, const char* text, const char* end, int sign) {
-  const char* const mark = findAny(text, end, 'e', 'E');
-  long long exponent = mark != end ? readExponent(mark + 1, end) : 0;
-  const char* const point = findAny(text, mark, '.', '.');
-  exponent += point - text;
+  const char* point = behindDigits(text, end);
+  const char* mark = point;
+  if (point != end && *point == '.') mark = behindDigits(point + 1, end);
+  const bool ended = mark == end || *mark == 0;
+  if (!ended && *mark != 'e' && *mark != 'E') return refuse(result, nonDigit);
 
-  const Digits digits(text, point, mark);
-  std::size_t zeros = 0;
-  while (zeros < digits.count && digits.first[zeros] == '0') ++zeros;
-  const std::size_t count = digits.count - zeros;
+  while (text != point && *text == '0') ++text;
+  long long exponent = (ended ? 0 : readExponent(mark + 1, end)) + (point - text);
+  if (text == point) {  // nothing before the point but zeros
+    text = std::min(point + 1, mark);
+    while (text != mark && *text == '0') ++text;
+    exponent -= std::max<long long>(0, text - point - 1);
+    point = mark;
+  }
+  const long long count = mark - text - (point != mark ? 1 : 0);
   if (count == 0) return setZero(result);
-  if (count > static_cast<std::size_t>(M_APM_MAX_DIGITS)) return refuse(result, "'m_apm_set_string', Number too long");
+  if (count > M_APM_MAX_DIGITS) return refuse(result, "'m_apm_set_string', Number too long");
 
   const int bytes = bytesOf(static_cast<int>(count));
-  if (!pack(makeRoom(result, bytes), digits.first + zeros, count)) return refuse(result, nonDigit);
-  normalise(result, bytes, exponent - static_cast<long long>(zeros), sign);
+  unsigned char* const data = makeRoom(result, bytes + 16);
+  if (point == mark) {
+    pack(data, text, static_cast<std::size_t>(count));
+  } else {
+    packAround(data, text, point, mark);
+  }
+  pad(data, bytes);
+  normalise(result, bytes, exponent, sign);
 }
 }  // namespace
 }  // namespace zarvik::mapm
 
 void m_apm_set_string(M_APM_struct* result, const char* text, std::size_t length) {
-  const char* end = text + length;
-  if (const void* const nul = length != 0 ? std::memchr(text, 0, length) : nullptr) end = static_cast<const char*>(nul);
+  const char* const end = text + length;
   while (text != end && (*text == ' ' || *text == '\t')) ++text;
-  if (text == end) return zarvik::mapm::setZero(result);
+  if (text == end || *text == 0) return zarvik::mapm::setZero(result);
   const int sign = *text == '-' ? -1 : 1;
   if (*text == '-' || *text == '+') ++text;
   zarvik::mapm::readUnsigned(result, text, end, sign);
@@ -122,6 +116,7 @@ void m_apm_set_long(M_APM_struct* result, long long value) {
   unsigned long long rest =
       value < 0 ? 0ULL - static_cast<unsigned long long>(value) : static_cast<unsigned long long>(value);
   for (int i = bytes; i-- > 0; rest /= 100) data[i] = static_cast<unsigned char>(rest % 100);
+  zarvik::mapm::pad(data, bytes);
   zarvik::mapm::normalise(result, bytes, 2 * bytes, value < 0 ? -1 : 1);
 }
 

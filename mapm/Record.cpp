@@ -20,12 +20,11 @@ struct Block {
 // Plain thread-local data without constructors: usable from any static initialiser and until the very end.
 constinit thread_local Block* pool = nullptr;
 constinit thread_local int pooled = 0;
-constinit thread_local bool drained = false;
 
 /// Gives the pool back when its thread ends; numbers that go later are freed one by one.
 struct Drain {
   ~Drain() {
-    drained = true;
+    pooled = poolLimit;  // full for good
     while (pool != nullptr) {
       Block* const block = pool;
       pool = block->next;
@@ -35,10 +34,9 @@ struct Drain {
 };
 
 Block* newBlock() {
-  if (!drained) [[maybe_unused]]
-    static thread_local const Drain drain;
+  [[maybe_unused]] static thread_local const Drain drain;
   Block* const block = static_cast<Block*>(std::malloc(sizeof(Block)));
-  if (block == nullptr) M_apm_log_error_msg(true, "'m_apm_init', Out of memory");
+  if (block == nullptr) zarvik::mapm::outOfMemory("'m_apm_init', Out of memory");
   return block;
 }
 
@@ -70,7 +68,7 @@ void m_apm_free(M_APM_struct* number) {
   number->id = 0;
   if (!isSmall(number)) std::free(number->data);
   Block* const block = reinterpret_cast<Block*>(number);
-  if (pooled >= poolLimit || drained) return std::free(block);
+  if (pooled >= poolLimit) return std::free(block);
   block->next = pool;
   pool = block;
   ++pooled;
@@ -86,14 +84,16 @@ void m_apm_copy(M_APM_struct* result, const M_APM_struct* a) {
 
 namespace zarvik::mapm {
 
-unsigned char* makeRoom(M_APM_struct* number, int bytes) {
-  assert(number->refCount == 1);
-  const int needed = paddedBytes(bytes);
-  if (needed <= number->mallocLength) return number->data;
+void outOfMemory(const char* message) {
+  M_apm_log_error_msg(true, message);
+  std::abort();
+}
+
+unsigned char* makeLargeRoom(M_APM_struct* number, int bytes) {
   if (!isSmall(number)) std::free(number->data);
-  number->data = static_cast<unsigned char*>(std::malloc(static_cast<std::size_t>(needed) + spareBytes));
-  if (number->data == nullptr) M_apm_log_error_msg(true, "'m_apm_init', Out of memory");
-  number->mallocLength = needed;
+  number->data = static_cast<unsigned char*>(std::malloc(static_cast<std::size_t>(bytes) + spareBytes));
+  if (number->data == nullptr) outOfMemory("'m_apm_make_room', Out of memory");
+  number->mallocLength = bytes;
   return number->data;
 }
 
@@ -126,34 +126,37 @@ int leadingZeroBytes(const unsigned char* data, int bytes) {
 
 /// Bytes left without the zeros at the end; there is a byte that is not zero.
 int withoutTrailingZeros(const unsigned char* data, int bytes) {
-  while (bytes >= 8) {
-    const std::uint64_t last = loadLow(data + bytes - 8);
-    if (last != 0) return bytes - std::countl_zero(last) / 8;
-    bytes -= 8;
+  int words = paddedBytes(bytes) / 8;
+  std::uint64_t last;
+  while ((last = loadLow(data + 8 * (words - 1))) == 0) --words;
+  return 8 * words - std::countl_zero(last) / 8;
+}
+
+/// Takes the zeros off the front and gives their count, with `bytes` what is left; there is a digit that is not zero.
+int dropLeadingZeros(unsigned char* data, int& bytes) {
+  const int zeros = leadingZeroBytes(data, bytes);
+  if (zeros != 0) {
+    bytes -= zeros;
+    std::memmove(data, data + zeros, static_cast<std::size_t>(bytes));
+    pad(data, bytes);
   }
-  while (data[bytes - 1] == 0) --bytes;
-  return bytes;
+  if (data[0] >= 10) return 2 * zeros;
+  dropLeadingDigit(data, bytes);
+  return 2 * zeros + 1;
 }
 }  // namespace
 
 void normalise(M_APM_struct* number, int bytes, long long exponent, int sign) {
   unsigned char* const data = number->data;
-  const int zeros = leadingZeroBytes(data, bytes);
-  if (zeros == bytes || sign == 0) return setZero(number);
-  if (zeros != 0) {
-    bytes -= zeros;
-    exponent -= 2LL * zeros;
-    std::memmove(data, data + zeros, static_cast<std::size_t>(bytes));
-  }
-  std::memset(data + bytes, 0, static_cast<std::size_t>(paddedBytes(bytes) - bytes));
   if (data[0] < 10) {
-    dropLeadingDigit(data, bytes);
-    --exponent;
+    if (leadingZeroBytes(data, bytes) == bytes) return setZero(number);
+    exponent -= dropLeadingZeros(data, bytes);
   }
-  bytes = withoutTrailingZeros(data, bytes);
-  if (exponent > std::numeric_limits<int>::max() || exponent < -std::numeric_limits<int>::max())
+  if (exponent != static_cast<int>(exponent) || exponent == std::numeric_limits<int>::min()) {
     return refuse(number, "'m_apm_normalize', Exponent out of range");
-  number->dataLength = 2 * bytes - (data[bytes - 1] % 10 == 0 ? 1 : 0);
+  }
+  const int left = withoutTrailingZeros(data, bytes);
+  number->dataLength = 2 * left - (data[left - 1] % 10 == 0 ? 1 : 0);
   number->exponent = static_cast<int>(exponent);
   number->sign = sign;
 }

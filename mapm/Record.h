@@ -1,6 +1,7 @@
 #pragma once
 
 #include <bit>
+#include <cassert>
 #include <cstdint>
 #include <cstring>
 #include <limits>
@@ -11,11 +12,11 @@
 namespace zarvik::mapm {
 
 constexpr int paddedBytes(int bytes) { return (bytes + 15) & ~15; }
-constexpr int bytesOf(int digits) { return digits / 2 + digits % 2; }
+constexpr int bytesOf(int digits) { return static_cast<int>((static_cast<unsigned int>(digits) + 1) / 2); }
 inline int byteCount(const M_APM_struct* a) { return bytesOf(a->dataLength); }
 inline int digitAt(const M_APM_struct* a, int i) {
-  const int pair = a->data[i / 2];
-  return i % 2 == 0 ? pair / 10 : pair % 10;
+  const int pair = a->data[i >> 1];
+  return (i & 1) == 0 ? pair / 10 : pair % 10;
 }
 
 /// Eight bytes, the first of them lowest.
@@ -37,8 +38,17 @@ inline std::uint64_t splitTens(std::uint64_t word, std::uint64_t& tens) {
   return word - 10 * tens;
 }
 
+/// The fatal end of the routine that is named: "'m_apm_...', Out of memory".
+[[noreturn]] void outOfMemory(const char* message);
+
+unsigned char* makeLargeRoom(M_APM_struct* number, int bytes);  // `bytes` with their padding
+
 /// Digits for `bytes` bytes and their padding; the old digits are lost. Never fails, but may end the process.
-unsigned char* makeRoom(M_APM_struct* number, int bytes);
+inline unsigned char* makeRoom(M_APM_struct* number, int bytes) {
+  assert(number->refCount == 1);
+  const int needed = paddedBytes(bytes);
+  return needed <= number->mallocLength ? number->data : makeLargeRoom(number, needed);
+}
 
 inline void setZero(M_APM_struct* number) {
   number->dataLength = 1;
@@ -50,7 +60,13 @@ inline void setZero(M_APM_struct* number) {
 /// Warns, and makes the number zero: the way out for what the kernel cannot represent.
 void refuse(M_APM_struct* number, const char* warning);
 
-/// Makes the `bytes` base-100 digits in `number->data` a normal number of the value sign * 0.digits * 10^exponent.
+/// Zeros from byte `bytes` to the next multiple of 16.
+inline void pad(unsigned char* data, int bytes) {
+  std::memset(data + bytes, 0, static_cast<std::size_t>(paddedBytes(bytes) - bytes));
+}
+
+/// Makes the `bytes` base-100 digits in `number->data`, which are padded with zeros, a normal number of the value
+/// sign * 0.digits * 10^exponent.
 void normalise(M_APM_struct* number, int bytes, long long exponent, int sign);
 
 /// The first `keep` digits of `a`, half away from zero. `keep` may be anything: from the length on, a copy.

@@ -8,6 +8,7 @@ int copyDigits(unsigned char* out, const M_APM_struct* a, int keep) {
   const int bytes = bytesOf(keep);
   std::memcpy(out, a->data, static_cast<std::size_t>(bytes));
   if (keep % 2 != 0) out[bytes - 1] = static_cast<unsigned char>(out[bytes - 1] / 10 * 10);
+  pad(out, bytes);
   return bytes;
 }
 
@@ -28,7 +29,9 @@ bool increment(unsigned char* data, int keep) {
 
 /// sign * 0.1 * 10^exponent
 void setPower(M_APM_struct* result, long long exponent, int sign) {
-  makeRoom(result, 1)[0] = 10;
+  unsigned char* const data = makeRoom(result, 1);
+  data[0] = 10;
+  pad(data, 1);
   normalise(result, 1, exponent, sign);
 }
 }  // namespace

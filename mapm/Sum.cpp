@@ -109,26 +109,30 @@ class Chain {
 
 #endif
 
-/// The digits of an operand, whole blocks of sixteen bytes.
+/// The digits of an operand, with zeros behind them up to whole blocks of sixteen bytes.
 struct Digits {
   const unsigned char* data;
   int bytes;
 };
+
+Digits plain(const M_APM_struct* a) { return {a->data, byteCount(a)}; }
 
 /// out = a op b over the longer one's blocks; the shorter one is followed by zeros. Whether a carry is left.
 template <class Operation>
 bool combine(unsigned char* out, Digits a, Digits b) {
   static constexpr unsigned char zeros[16] = {};
   Chain<Operation> chain;
-  const int common = std::min(a.bytes, b.bytes);
-  for (int i = a.bytes - 16; i >= common; i -= 16) chain.step(out + i, a.data + i, zeros);
-  for (int i = b.bytes - 16; i >= common; i -= 16) chain.step(out + i, zeros, b.data + i);
+  const int endOfA = paddedBytes(a.bytes);
+  const int endOfB = paddedBytes(b.bytes);
+  const int common = std::min(endOfA, endOfB);
+  for (int i = endOfA - 16; i >= common; i -= 16) chain.step(out + i, a.data + i, zeros);
+  for (int i = endOfB - 16; i >= common; i -= 16) chain.step(out + i, zeros, b.data + i);
   for (int i = common - 16; i >= 0; i -= 16) chain.step(out + i, a.data + i, b.data + i);
   return chain.carry();
 }
 
 /// Moves `bytes` bytes of digits one digit to the back, behind `digit`, from `in` to `out`, which may be the same.
-/// `out` has room for one more byte and its padding.
+/// `out` has room for 8 bytes more; what follows the digits there is zero up to byte bytes + 1 at least.
 void insertDigit(unsigned char* out, const unsigned char* in, int bytes, unsigned int digit) {
   std::uint64_t before = digit;
   int i = 0;
@@ -138,28 +142,24 @@ void insertDigit(unsigned char* out, const unsigned char* in, int bytes, unsigne
     storeLow(out + i, 10 * (units << 8 | before) + tens);
     before = units >> 56;
   }
-  if (i == paddedBytes(bytes)) std::memset(out + i, 0, 16);
-  out[i] = static_cast<unsigned char>(10 * before);
+  storeLow(out + i, 10 * before);
 }
 
 /// The digits of `a` behind `shift` zeros, made in `scratch`.
 Digits shifted(M_APM_struct* scratch, const M_APM_struct* a, int shift) {
   const int bytes = byteCount(a);
   const int zeros = shift / 2;
-  const int all = paddedBytes(zeros + bytes + 1);
-  unsigned char* const data = makeRoom(scratch, all + 32);
+  const int all = zeros + bytes + shift % 2;
+  unsigned char* const data = makeRoom(scratch, all + 16);
   std::memset(data, 0, static_cast<std::size_t>(zeros));
   if (shift % 2 != 0) {
     insertDigit(data + zeros, a->data, bytes, 0);
   } else {
     std::memcpy(data + zeros, a->data, static_cast<std::size_t>(bytes));
   }
-  const int used = zeros + bytes + shift % 2;
-  std::memset(data + used, 0, static_cast<std::size_t>(all - used));
+  pad(data, all);
   return {data, all};
 }
-
-Digits plain(const M_APM_struct* a) { return {a->data, paddedBytes(byteCount(a))}; }
 
 /// `high` has the greater exponent, or an equal one, and for differences the greater magnitude.
 void combineMagnitudes(M_APM_struct* result, Digits high, Digits low, bool difference, int exponent, int sign) {
@@ -169,6 +169,7 @@ void combineMagnitudes(M_APM_struct* result, Digits high, Digits low, bool diffe
     combine<Subtracter>(data, high, low);
   } else if (combine<Adder>(data, high, low)) {
     insertDigit(data, data, bytes, 1);
+    pad(data, bytes + 1);
     return normalise(result, bytes + 1, exponent + 1LL, sign);
   }
   normalise(result, bytes, exponent, sign);
@@ -182,16 +183,17 @@ void sum(M_APM_struct* result, const M_APM_struct* a, const M_APM_struct* b, int
     return;
   }
   const bool difference = a->sign != signOfB;
-  const bool aLeads = compareMagnitudes(a, b) >= 0;
-  const M_APM_struct* const high = aLeads ? a : b;
-  const M_APM_struct* const low = aLeads ? b : a;
-  const int sign = aLeads ? a->sign : signOfB;
-  const long long shift = static_cast<long long>(high->exponent) - low->exponent;
-  if (shift == 0) return combineMagnitudes(result, plain(high), plain(low), difference, high->exponent, sign);
-  if (shift + low->dataLength > M_APM_MAX_DIGITS) return refuse(result, tooLong);
+  int sign = a->sign;
+  if (difference ? compareMagnitudes(a, b) < 0 : a->exponent < b->exponent) {
+    std::swap(a, b);
+    sign = signOfB;
+  }
+  if (a->exponent == b->exponent) return combineMagnitudes(result, plain(a), plain(b), difference, a->exponent, sign);
+  const long long shift = static_cast<long long>(a->exponent) - b->exponent;
+  if (shift + b->dataLength > M_APM_MAX_DIGITS) return refuse(result, tooLong);
   const Temporary scratch;
-  const Digits moved = shifted(scratch, low, static_cast<int>(shift));
-  combineMagnitudes(result, plain(high), moved, difference, high->exponent, sign);
+  const Digits moved = shifted(scratch, b, static_cast<int>(shift));
+  combineMagnitudes(result, plain(a), moved, difference, a->exponent, sign);
 }
 }  // namespace
 }  // namespace zarvik::mapm

@@ -2,6 +2,10 @@
 
 #include <memory>
 
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
+
 #include "Record.h"
 
 /// Whole numbers as rows of words to the base 10^16, the lowest word first: what products and quotients are computed
@@ -40,17 +44,42 @@ inline Word wordOf(std::uint64_t bytes) {
   return (bytes & 0xFFFFFFFF) * 100000000 + (bytes >> 32);
 }
 
-/// The way back.
-inline std::uint64_t bytesOfWord(Word word) {
-  const auto fourBytes = [](std::uint64_t eight) {
-    const std::uint64_t top = eight * 3518437209U >> 45;  // by 10000
-    const std::uint64_t fours = top | (eight - top * 10000) << 32;
-    const std::uint64_t hundreds = (fours * 5243 >> 19) & 0x0000007F0000007F;
-    const std::uint64_t bytes = hundreds | (fours - hundreds * 100) << 8;
+#ifdef __SSE2__
+
+/// Two words as sixteen base-100 bytes: divided by 10^8, and from there on all parts at once by 10^4 and 100.
+inline void storeWords(unsigned char* out, Word first, Word second) {
+  const auto eightDigits = [](Word word) {
+    const Word top = word / 100000000;
+    return _mm_set_epi64x(static_cast<long long>(word - top * 100000000), static_cast<long long>(top));
+  };
+  const auto fourDigits = [](__m128i eights) {
+    const __m128i top = _mm_srli_epi64(_mm_mul_epu32(eights, _mm_set1_epi64x(3518437209)), 45);
+    const __m128i rest = _mm_sub_epi64(eights, _mm_mul_epu32(top, _mm_set1_epi64x(10000)));
+    return _mm_or_si128(top, _mm_slli_epi64(rest, 32));
+  };
+  const __m128i fours = _mm_packs_epi32(fourDigits(eightDigits(first)), fourDigits(eightDigits(second)));
+  const __m128i top = _mm_srli_epi16(_mm_mulhi_epu16(fours, _mm_set1_epi16(5243)), 3);
+  const __m128i rest = _mm_sub_epi16(fours, _mm_mullo_epi16(top, _mm_set1_epi16(100)));
+  _mm_storeu_si128(reinterpret_cast<__m128i*>(out), _mm_or_si128(top, _mm_slli_epi16(rest, 8)));
+}
+
+#else
+
+/// Two words as sixteen base-100 bytes.
+inline void storeWords(unsigned char* out, Word first, Word second) {
+  const auto fourBytes = [](Word eightDigits) {
+    const Word top = eightDigits / 10000;
+    const Word fours = top | (eightDigits - top * 10000) << 32;
+    const Word hundreds = (fours * 5243 >> 19) & 0x0000007F0000007F;
+    const Word bytes = hundreds | (fours - hundreds * 100) << 8;
     return (bytes | bytes >> 16) & 0xFFFFFFFF;
   };
-  return fourBytes(word / 100000000) | fourBytes(word % 100000000) << 32;
+  const auto eightBytes = [&](Word word) { return fourBytes(word / 100000000) | fourBytes(word % 100000000) << 32; };
+  storeLow(out, eightBytes(first));
+  storeLow(out + 8, eightBytes(second));
 }
+
+#endif
 
 /// The digits of `a` as a fraction: its value is words / base^count * 10^exponent.
 inline void toWords(Word* out, const M_APM_struct* a, int count) {
@@ -61,8 +90,10 @@ inline void toWords(Word* out, const M_APM_struct* a, int count) {
 inline void fromWords(M_APM_struct* result, const Word* words, int count, long long exponent, int sign) {
   int low = 0;
   while (low < count - 1 && words[low] == 0) ++low;
-  unsigned char* const data = makeRoom(result, 8 * (count - low));
-  for (int i = low; i < count; ++i) storeLow(data + 8 * (count - 1 - i), bytesOfWord(words[i]));
+  unsigned char* data = makeRoom(result, 8 * (count - low));
+  int i = count - 1;
+  for (; i > low; i -= 2, data += 16) storeWords(data, words[i], words[i - 1]);
+  if (i == low) storeWords(data, words[low], 0);
   normalise(result, 8 * (count - low), exponent, sign);
 }
 
