@@ -113,9 +113,8 @@ DoubleWord join(Word first, Word second) {
 
 void convolveWords(Word* out, const Word* a, int na, const Word* b, int nb) {
   const int n = static_cast<int>(std::bit_ceil(static_cast<unsigned int>(na + nb)));
-  const std::size_t row = static_cast<std::size_t>(n);
-  const std::unique_ptr<Word[]> room = std::make_unique_for_overwrite<Word[]>(4 * row);
-  Word* const first = room.get();
+  WordBuffer<1> room(4 * n);
+  Word* const first = room;
   Word* const second = first + n;
   convolve<First>(first, second + n, second + 2 * n, n, a, na, b, nb);
   convolve<Second>(second, second + n, second + 2 * n, n, a, na, b, nb);

@@ -3,6 +3,7 @@
 #include <cassert>
 #include <cstdio>
 #include <cstdlib>
+#include <new>
 
 namespace {
 
@@ -28,16 +29,14 @@ struct Drain {
     while (pool != nullptr) {
       Block* const block = pool;
       pool = block->next;
-      std::free(block);
+      ::operator delete(block);
     }
   }
 };
 
 Block* newBlock() {
   [[maybe_unused]] static thread_local const Drain drain;
-  Block* const block = static_cast<Block*>(std::malloc(sizeof(Block)));
-  if (block == nullptr) zarvik::mapm::outOfMemory("'m_apm_init', Out of memory");
-  return block;
+  return static_cast<Block*>(zarvik::mapm::allocate(sizeof(Block), "'m_apm_init', Out of memory"));
 }
 
 Block* pooledBlock() {
@@ -66,9 +65,9 @@ M_APM_struct* m_apm_init() {
 void m_apm_free(M_APM_struct* number) {
   if (number->id != M_APM_IDENT) return M_apm_log_error_msg(false, "'m_apm_free', Invalid M_APM variable");
   number->id = 0;
-  if (!isSmall(number)) std::free(number->data);
+  if (!isSmall(number)) ::operator delete(number->data);
   Block* const block = reinterpret_cast<Block*>(number);
-  if (pooled >= poolLimit) return std::free(block);
+  if (pooled >= poolLimit) return ::operator delete(block);
   block->next = pool;
   pool = block;
   ++pooled;
@@ -89,10 +88,16 @@ void outOfMemory(const char* message) {
   std::abort();
 }
 
+void* allocate(std::size_t bytes, const char* message) {
+  void* const block = ::operator new(bytes, std::nothrow);
+  if (block == nullptr) outOfMemory(message);
+  return block;
+}
+
 unsigned char* makeLargeRoom(M_APM_struct* number, int bytes) {
-  if (!isSmall(number)) std::free(number->data);
-  number->data = static_cast<unsigned char*>(std::malloc(static_cast<std::size_t>(bytes) + spareBytes));
-  if (number->data == nullptr) outOfMemory("'m_apm_make_room', Out of memory");
+  if (!isSmall(number)) ::operator delete(number->data);
+  const std::size_t all = static_cast<std::size_t>(bytes) + spareBytes;
+  number->data = static_cast<unsigned char*>(allocate(all, "'m_apm_make_room', Out of memory"));
   number->mallocLength = bytes;
   return number->data;
 }

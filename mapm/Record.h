@@ -41,6 +41,9 @@ inline std::uint64_t splitTens(std::uint64_t word, std::uint64_t& tens) {
 /// The fatal end of the routine that is named: "'m_apm_...', Out of memory".
 [[noreturn]] void outOfMemory(const char* message);
 
+/// Memory for `bytes` bytes, to be freed with `operator delete`; without it the program ends with `message`.
+void* allocate(std::size_t bytes, const char* message);
+
 unsigned char* makeLargeRoom(M_APM_struct* number, int bytes);  // `bytes` with their padding
 
 /// Digits for `bytes` bytes and their padding; the old digits are lost. Never fails, but may end the process.

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <memory>
-
 #ifdef __SSE2__
 #include <emmintrin.h>
 #endif
@@ -24,16 +22,22 @@ inline int wordCount(const M_APM_struct* a) { return (byteCount(a) + 7) / 8; }
 template <int N>
 class WordBuffer {
  public:
-  explicit WordBuffer(int count) {
-    if (count > N) large = std::make_unique_for_overwrite<Word[]>(static_cast<std::size_t>(count));
-    words = large ? large.get() : small;
+  explicit WordBuffer(int count) : words(count > N ? newWords(count) : small) {}
+  ~WordBuffer() {
+    if (words != small) ::operator delete(words);
   }
+  WordBuffer(const WordBuffer&) = delete;
+  WordBuffer& operator=(const WordBuffer&) = delete;
   operator Word*() { return words; }
 
  private:
+  static Word* newWords(int count) {
+    const std::size_t bytes = static_cast<std::size_t>(count) * sizeof(Word);
+    return static_cast<Word*>(allocate(bytes, "'m_apm_words', Out of memory"));
+  }
+
   Word small[N];
-  std::unique_ptr<Word[]> large;
-  Word* words;
+  Word* const words;
 };
 using Words = WordBuffer<40>;
 

@@ -1,0 +1,92 @@
+#include "BigDecimal.h"
+
+#include <cmath>
+#include <limits>
+
+#include "BigInteger.h"
+#include "Support.h"
+
+namespace zarvik {
+namespace {
+
+std::string str(const BigDecimal& value) { return value.toString().c_str(); }
+std::string str(const BigInteger& value) { return value.toString().c_str(); }
+
+/// Made before main, like a cartridge's constants: no other initialiser has to come first.
+const BigDecimal early = BigDecimal("1") / BigDecimal("8");
+
+TEST(BigDecimal, showsExactlyItsDigits) {
+  EXPECT_EQ(str(early), "0.125");
+  for (const char* text : {"12.5", "12", "0", "-0.001", "120.0", "-7000.0", "123456789012345678901234567890.1"}) {
+    EXPECT_EQ(str(BigDecimal(text)), text);
+    char buffer[100];
+    EXPECT_STREQ(BigDecimal(text).toString(buffer), text);
+  }
+  EXPECT_EQ(BigDecimal(("1e" + std::to_string(5000)).c_str()).toString().length(), 5003U);
+  EXPECT_EQ(errorOf<TransformException>([] { BigDecimal("1e-2000000000").toString(); }), "Number too long for a text");
+}
+
+TEST(BigDecimal, takesFifteenDigitsOfADouble) {
+  EXPECT_EQ(str(BigDecimal(0.1)), "0.1");
+  EXPECT_EQ(str(BigDecimal(1.0 / 3)), "0.333333333333333");
+  EXPECT_EQ(str(BigDecimal(-0.0)), "0");
+  EXPECT_EQ(str(BigDecimal(-2.5F)), "-2.5");
+  EXPECT_EQ(BigDecimal(1e300).toDouble(), 1e300);
+  for (const double value : {NAN, HUGE_VAL, -HUGE_VAL}) {
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(BigDecimal(value).sign(), 0);
+    EXPECT_NE(testing::internal::GetCapturedStderr(), "");
+  }
+}
+
+TEST(BigDecimal, takesIntegersWhole) {
+  EXPECT_EQ(str(BigDecimal(std::numeric_limits<__int64>::min())), "-9223372036854775808");
+  EXPECT_EQ(str(BigDecimal(-40)), "-40.0");
+  EXPECT_EQ(str(BigInteger(std::numeric_limits<unsigned long long>::max())), "-1");
+  EXPECT_EQ(str(BigDecimal(BigInteger("1.5"))), "1.5");
+  EXPECT_EQ(str(BigDecimal(zkstring("12\0003", 4))), "12");
+}
+
+TEST(BigDecimal, dividesToThirtyDigitsOrTheLongerOperand) {
+  EXPECT_EQ(str(BigDecimal("1") / BigDecimal("3")), "0." + std::string(30, '3'));
+  EXPECT_EQ(str(BigDecimal("-2") / BigDecimal("3")), "-0." + std::string(30, '6'));
+  const BigDecimal nines(std::string(40, '9').c_str());
+  EXPECT_EQ((nines / BigDecimal("7")).significant_digits(), 40 + 39);
+}
+
+TEST(BigDecimal, remaindersBearTheSignOfTheFirst) {
+  EXPECT_EQ(str(BigDecimal("7") % BigDecimal("3")), "1");
+  EXPECT_EQ(str(BigDecimal("-7") % BigDecimal("3")), "-1");
+  EXPECT_EQ(str(BigDecimal("7.5") % BigDecimal("-2")), "1.5");
+}
+
+TEST(BigInteger, quotientKeepsOneDigit) {
+  struct Row {
+    const char* a;
+    const char* b;
+    const char* quotient;
+  };
+  for (const Row& row :
+       {Row{"10", "4", "3"}, Row{"1234", "1", "1000"}, Row{"1000", "3", "300"}, Row{"-7", "2", "-4"}}) {
+    EXPECT_EQ(str(BigInteger(row.a) / BigInteger(row.b)), row.quotient) << row.a;
+  }
+}
+
+TEST(BigInteger, showsAWholeNumber) {
+  EXPECT_EQ(str(BigInteger("120")), "120");
+  EXPECT_EQ(str(BigInteger("-2.5")), "-3");
+  EXPECT_EQ(str(BigInteger("-0.4")), "0");
+  EXPECT_EQ(str(BigInteger("-5").abs()), "5");
+}
+
+TEST(BigInteger, longsFailOutsideTheirRange) {
+  EXPECT_EQ(BigInteger("-9223372036854775808.9").toLong(), std::numeric_limits<__int64>::min());
+  EXPECT_EQ(BigInteger("9223372036854775807").toULong(), 9223372036854775807ULL);
+  EXPECT_EQ(BigInteger("-3.99").toInt(), -3);
+  EXPECT_EQ(errorOf<TransformException>([] { BigInteger("9223372036854775808").toULong(); }),
+            "Integer overflow. Cannot convert '9223372036854775808' to int");
+  EXPECT_EQ(errorOf<TransformException>([] { BigDecimal("-1e19").toLong(); }),
+            "Long overflow. Cannot convert '-10000000000000000000' to long");
+}
+}  // namespace
+}  // namespace zarvik

@@ -1,0 +1,126 @@
+// Every operation against results that were computed elsewhere, and long ones against what must hold between them.
+#include <cstdint>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "BigDecimal.h"
+#include "Support.h"
+#include "mapm/MAPM.h"
+
+using zarvik::BigDecimal;
+
+namespace {
+
+struct Operand {
+  std::uint64_t seed;
+  int count;
+  int exponent;
+};
+struct Row {
+  char operation;
+  Operand a;
+  Operand b;
+  int places;
+  std::uint64_t hash;
+};
+constexpr Row rows[] = {
+#include "DecimalTable.inc"
+};
+
+/// As make_table.py makes them.
+std::string textOf(const Operand& operand) {
+  std::string text = operand.seed / 4 % 2 != 0 ? "-" : "";
+  std::uint64_t state = operand.seed;
+  for (int i = 0; i < operand.count; ++i) {
+    state = state * 6364136223846793005 + 1442695040888963407;
+    int digit = static_cast<int>((state >> 33) % 10);
+    if (operand.seed % 4 == 0) digit = digit % 2 * 9;
+    text += static_cast<char>('0' + (i == 0 && digit == 0 ? 9 : digit));
+  }
+  return text + "e" + std::to_string(operand.exponent);
+}
+
+std::uint64_t fnv(const std::string& text) {
+  std::uint64_t value = 14695981039346656037U;
+  for (const char c : text) value = (value ^ static_cast<unsigned char>(c)) * 1099511628211U;
+  return value;
+}
+
+BigDecimal dec(const std::string& text) { return BigDecimal(text.c_str()); }
+
+std::string scientific(const MAPM& value) {
+  std::vector<char> text(static_cast<std::size_t>(value.significant_digits()) + 20);
+  value.toString(text.data(), -1);
+  return text.data();
+}
+
+MAPM calculate(const Row& row, const BigDecimal& a, const BigDecimal& b) {
+  switch (row.operation) {
+    case '+':
+      return a + b;
+    case '-':
+      return a - b;
+    case '*':
+      return a * b;
+    case '/':
+      return a.divide(b, row.places);
+    case 'i':
+      return a.integer_divide(b);
+    case '%':
+      return a % b;
+    default:
+      return a.round(row.places);
+  }
+}
+
+/// `count` random digits, none of them 0 at the ends.
+std::string randomDigits(std::mt19937& random, int count) {
+  std::string text;
+  for (int i = 0; i < count; ++i) text += static_cast<char>('0' + random() % 10);
+  text.front() = text.back() = '7';
+  return text;
+}
+
+TEST(DecimalTable, everyResultIsExact) {
+  for (const Row& row : rows) {
+    const std::string text = scientific(calculate(row, dec(textOf(row.a)), dec(textOf(row.b))));
+    EXPECT_EQ(fnv(text), row.hash) << textOf(row.a) << ' ' << row.operation << ' ' << textOf(row.b) << " to "
+                                   << row.places << " gives " << text;
+  }
+}
+
+TEST(DecimalTable, operationsUndoEachOther) {
+  std::mt19937 random(5);
+  for (const int count : {20, 95, 96, 300, 2500, 9000, 30000}) {
+    const BigDecimal a = dec(randomDigits(random, count) + "e-9");
+    const BigDecimal b = dec("-" + randomDigits(random, count / 2 + 1));
+    EXPECT_TRUE((a + b) - b == a) << count;
+    EXPECT_TRUE(a * b / b == a) << count;
+    EXPECT_TRUE((a + b) * (a - b) == a * a - b * b) << count;
+    MAPM quotient;
+    MAPM remainder;
+    (a * a).integer_div_rem(b, quotient, remainder);
+    EXPECT_TRUE(quotient.is_integer() && remainder.sign() >= 0 && remainder < b.abs()) << count;
+    EXPECT_TRUE(dec(scientific(quotient)) * b + dec(scientific(remainder)) == a * a) << count;
+  }
+}
+
+unsigned long remainderOf(const std::string& digits, unsigned long prime) {
+  unsigned long rest = 0;
+  for (const char digit : digits) rest = (rest * 10 + static_cast<unsigned long>(digit - '0')) % prime;
+  return rest;
+}
+
+TEST(DecimalTable, productOfMillionsOfDigitsIsRightModuloPrimes) {
+  std::mt19937 random(6);
+  const std::string a = randomDigits(random, 1'100'003);
+  const std::string b = std::string(1'000'001, '9');
+  const MAPM product = dec(a) * dec(b);
+  std::vector<char> text(a.size() + b.size() + 1);
+  product.toIntegerString(text.data());
+  for (const unsigned long prime : {999'999'937UL, 1'000'000'007UL, 2'147'483'647UL, 4'294'967'291UL}) {
+    EXPECT_EQ(remainderOf(text.data(), prime), remainderOf(a, prime) * remainderOf(b, prime) % prime) << prime;
+  }
+}
+}  // namespace

@@ -1,0 +1,247 @@
+#include "mapm/MAPM.h"
+
+#include <cstdlib>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "Allocations.h"
+#include "BigDecimal.h"
+#include "Support.h"
+
+namespace {
+
+std::string general(const MAPM& value) {
+  char text[500];
+  value.toString(text, -1);
+  return text;
+}
+
+/// What `action` prints on standard error.
+template <class Action>
+std::string warningOf(Action action) {
+  testing::internal::CaptureStderr();
+  action();
+  return testing::internal::GetCapturedStderr();
+}
+std::string warning(const std::string& text) { return "MAPM Warning: " + text + "\n"; }
+
+class Number : public MAPM {  // opens the record
+ public:
+  using MAPM::cval;
+  using MAPM::MAPM;
+  using MAPM::val;
+};
+
+struct Text {
+  const char* text;
+  const char* value;
+};
+
+TEST(MAPM, readsTexts) {
+  constexpr Text rows[] = {
+      {" \t+12.50", "1.25E+1"},
+      {"-007", "-7.0E+0"},
+      {"0.1", "1.0E-1"},
+      {"100", "1.0E+2"},
+      {".5", "5.0E-1"},
+      {"5.", "5.0E+0"},
+      {"000.00012", "1.2E-4"},
+      {"1E3", "1.0E+3"},
+      {"1.5e-3zz", "1.5E-3"},
+      {"1e", "1.0E+0"},
+      {"2e +3", "2.0E+3"},
+      {"", "0.0E+0"},
+      {".", "0.0E+0"},
+      {"-", "0.0E+0"},
+      {"e5", "0.0E+0"},
+      {"-0.000", "0.0E+0"},
+      {"0e99999999999", "0.0E+0"},
+      {"123456789.123456789e1", "1.23456789123456789E+9"},
+      {"0000000000.0000000012345678", "1.2345678E-9"},
+      {"1e2147483646", "1.0E+2147483646"},
+  };
+  for (const Text& row : rows) {
+    EXPECT_EQ(warningOf([&] { EXPECT_EQ(general(MAPM(row.text)), row.value) << row.text; }), "") << row.text;
+  }
+}
+
+TEST(MAPM, warnsOfTextsThatAreNoNumbers) {
+  for (const char* text : {"x", "1x", "1.2.3", "12345678-", "--1", "- 1", "1 ", "0x10", "1,5", "12345678901234567:"}) {
+    EXPECT_EQ(warningOf([&] { EXPECT_EQ(MAPM(text).sign(), 0); }),
+              warning("'m_apm_set_string', Non-digit char found in parse"))
+        << text;
+  }
+  for (const char* text : {"1e2147483647", "1e-99999999999", "1e99999999999999999999", ".1e-2147483647"}) {
+    EXPECT_EQ(warningOf([&] { EXPECT_EQ(MAPM(text).sign(), 0); }), warning("'m_apm_normalize', Exponent out of range"))
+        << text;
+  }
+}
+
+TEST(MAPM, writesFixedPointTexts) {
+  struct Row {
+    const char* value;
+    int places;
+    const char* text;
+    const char* grouped;
+  };
+  constexpr Row rows[] = {
+      {"1234567.891", 2, "1234567.89", "1'234'567,89"},
+      {"1234567.891", -1, "1234567.891", "1'234'567,891"},
+      {"999.995", 2, "1000.00", "1'000,00"},
+      {"-0.004", 2, "0.00", "0,00"},
+      {"-0.005", 2, "-0.01", "-0,01"},
+      {"-0.5", 0, "-1", "-1"},
+      {"0.49", 0, "0", "0"},
+      {"120", -1, "120.0", "120,0"},
+      {"0", -1, "0.0", "0,0"},
+      {"0", 3, "0.000", "0,000"},
+      {"0.00012", 3, "0.000", "0,000"},
+      {"0.00012", 8, "0.00012000", "0,00012000"},
+      {"123456", 0, "123456", "123'456"},
+      {"-123", 1, "-123.0", "-123,0"},
+      {"1e12", 1, "1000000000000.0", "1'000'000'000'000,0"},
+  };
+  for (const Row& row : rows) {
+    const MAPM value(row.value);
+    char text[100];
+    value.toFixPtString(text, row.places);
+    EXPECT_STREQ(text, row.text) << row.value;
+    EXPECT_LE(static_cast<long long>(std::string(text).size()), value.fixPtLength(row.places));
+    char* const grouped = value.toFixPtStringExp(row.places, ',', '\'', 3);
+    EXPECT_STREQ(grouped, row.grouped) << row.value;
+    std::free(grouped);
+  }
+}
+
+TEST(MAPM, writesScientificAndIntegerTexts) {
+  struct Row {
+    const char* value;
+    int places;
+    const char* scientific;
+    const char* integer;
+    long whole;
+  };
+  constexpr Row rows[] = {
+      {"0", 2, "0.00E+0", "0", 0},
+      {"-1234.56", 2, "-1.23E+3", "-1234", -1234},
+      {"9.996", 2, "1.00E+1", "9", 9},
+      {"-0.9", 0, "-9E-1", "0", 0},
+      {"1200", 4, "1.2000E+3", "1200", 1200},
+      {"9223372036854775808", -1, "9.223372036854775808E+18", "9223372036854775808", 9223372036854775807},
+  };
+  for (const Row& row : rows) {
+    char text[100];
+    MAPM(row.value).toString(text, row.places);
+    EXPECT_STREQ(text, row.scientific);
+    MAPM(row.value).toIntegerString(text);
+    EXPECT_STREQ(text, row.integer);
+    EXPECT_EQ(MAPM(row.value).toLong(), row.whole);
+    EXPECT_EQ(MAPM(row.value).toDouble(), std::strtod(row.value, nullptr));
+  }
+  EXPECT_EQ(MAPM("-1e400").toFloat(), -std::numeric_limits<float>::infinity());
+}
+
+TEST(MAPM, refusesWhatIsBeyondReason) {
+  const MAPM huge("1e2000000000");
+  const MAPM tiny("1e-2000000000");
+  char text[8] = "unset";
+  EXPECT_EQ(warningOf([&] { huge.toFixPtString(text, 2); }), warning("'m_apm_to_string', Text too long"));
+  EXPECT_STREQ(text, "");
+  EXPECT_NE(warningOf([&] { MAPM(1).toString(text, 2147483647); }), "");
+  EXPECT_NE(warningOf([&] { MAPM(1).toFixPtString(text, 2147483647); }), "");
+  EXPECT_EQ(warningOf([&] { EXPECT_EQ(huge.integer_divide(MAPM(3)).sign(), 0); }),
+            warning("'m_apm_divide', Result too long"));
+  EXPECT_NE(warningOf([&] { EXPECT_EQ(MAPM(1).divide(MAPM(3), 2147483647).sign(), 0); }), "");
+  EXPECT_NE(warningOf([&] { EXPECT_EQ((++MAPM(huge)).sign(), 0); }), "");
+  EXPECT_NE(warningOf([&] { EXPECT_EQ(huge.divide(tiny, 5).sign(), 0); }), "");
+  EXPECT_EQ(warningOf([&] { EXPECT_EQ(general(tiny.divide(MAPM(3), 5)), "3.3333E-2000000001"); }), "");
+  EXPECT_EQ(huge.toDouble(), std::numeric_limits<double>::infinity());
+  EXPECT_GT(huge, tiny);
+}
+
+TEST(MAPM, warnsInItsWords) {
+  const MAPM zero;
+  EXPECT_EQ(warningOf([&] { EXPECT_EQ(MAPM(5).divide(zero).sign(), 0); }), warning("'m_apm_divide', Divide by 0"));
+  EXPECT_EQ(warningOf([&] { EXPECT_EQ(general(MAPM(5).rem(zero)), "5.0E+0"); }),
+            warning("'m_apm_divide', Divide by 0"));
+  EXPECT_EQ(warningOf([&] { EXPECT_FALSE(MAPM("0.5").is_even()); }), warning("'m_apm_is_even', Non-integer input"));
+  M_APM_struct* const result = m_apm_init();
+  M_APM_struct none = *result;
+  EXPECT_EQ(warningOf([&] { m_apm_reciprocal(result, 5, Number().cval()); }), warning("'m_apm_reciprocal', Input = 0"));
+  m_apm_free(result);
+  none.id = 7;
+  EXPECT_EQ(warningOf([&] { m_apm_free(&none); }), warning("'m_apm_free', Invalid M_APM variable"));
+  EXPECT_EXIT(M_apm_log_error_msg(true, "the end"), testing::ExitedWithCode(100), "MAPM Error: the end\n");
+}
+
+TEST(MAPM, roundsHalfAwayFromZero) {
+  struct Row {
+    const char* value;
+    int places;
+    const char* rounded;
+  };
+  constexpr Row rows[] = {{"1234", 0, "1.0E+3"},    {"-1500", 0, "-2.0E+3"},   {"9995", 2, "1.0E+4"},
+                          {"2.5", 0, "3.0E+0"},     {"-0.0449", 1, "-4.5E-2"}, {"7", -1, "1.0E+1"},
+                          {"4", -1, "0.0E+0"},      {"9", -2, "0.0E+0"},       {"12.34", 9, "1.234E+1"},
+                          {"99999", 4, "9.9999E+4"}};
+  for (const Row& row : rows) EXPECT_EQ(general(MAPM(row.value).round(row.places)), row.rounded) << row.value;
+}
+
+TEST(MAPM, longDivisionCutsAndTheReciprocalRounds) {
+  EXPECT_EQ(general(MAPM(2).divide(MAPM(3), 5)), "6.6666E-1");
+  EXPECT_EQ(general(MAPM(2000).divide(MAPM(3), 5)), "6.6666666E+2");
+  const std::string shorter = general(MAPM(2).divide(MAPM(3), 249));
+  const std::string longer = general(MAPM(2).divide(MAPM(3), 250));
+  EXPECT_EQ(longer, "6." + std::string(248, '6') + "7E-1");
+  EXPECT_EQ(shorter, "6." + std::string(248, '6') + "E-1");
+}
+
+TEST(MAPM, writingLeavesOtherHandlesAlone) {
+  MAPM a("99");
+  MAPM b = a;
+  ++a;
+  const MAPM c = b++;
+  EXPECT_EQ(general(a) + general(b) + general(c), "1.0E+21.0E+29.9E+1");
+  Number original("5");
+  const Number shared = original;
+  EXPECT_EQ(original.cval()->refCount, 2);
+  original.val()->sign = -1;
+  EXPECT_EQ(shared.cval()->sign, 1);
+  EXPECT_EQ(shared.cval()->refCount, 1);
+}
+
+TEST(MAPM, movesTouchNoCountAndLeaveZero) {
+  Number source("12");
+  const Number other = source;
+  Number target = std::move(source);
+  EXPECT_EQ(other.cval()->refCount, 2);
+  EXPECT_EQ(target.cval(), other.cval());
+  EXPECT_EQ(source.sign(), 0);  // NOLINT(bugprone-use-after-move)
+  EXPECT_EQ(general(++source), "1.0E+0");
+  target = std::move(target);
+  EXPECT_EQ(general(target), "1.2E+1");
+}
+
+TEST(MAPM, parityLooksAtTheUnits) {
+  struct Row {
+    const char* value;
+    int even;
+    int odd;
+  };
+  for (const Row& row : {Row{"0", 1, 0}, Row{"12", 1, 0}, Row{"123", 0, 1}, Row{"-30", 1, 0}, Row{"1e9", 1, 0}}) {
+    EXPECT_EQ(MAPM(row.value).is_even(), row.even) << row.value;
+    EXPECT_EQ(MAPM(row.value).is_odd(), row.odd) << row.value;
+  }
+}
+
+TEST(MAPM, arithmeticOnShortNumbersDoesNotAllocate) {
+  const zarvik::BigDecimal a("1234567890.12345678901234567890");
+  const zarvik::BigDecimal b("987654321098765432109876543210");
+  const zarvik::BigDecimal c("-0.123456789012345678901234567890");
+  zarvik::BigDecimal sum = a * b + c;
+  const Allocations allocations;
+  for (int i = 0; i < 100; ++i) sum = a * b + c - sum / b;
+  EXPECT_EQ(allocations.count(), 0);
+}
+}  // namespace
