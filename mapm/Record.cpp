@@ -89,9 +89,11 @@ void outOfMemory(const char* message) {
 }
 
 void* allocate(std::size_t bytes, const char* message) {
-  void* const block = ::operator new(bytes, std::nothrow);
-  if (block == nullptr) outOfMemory(message);
-  return block;
+  try {
+    return ::operator new(bytes);
+  } catch (const std::bad_alloc&) {
+    outOfMemory(message);
+  }
 }
 
 unsigned char* makeLargeRoom(M_APM_struct* number, int bytes) {

@@ -32,7 +32,7 @@ TEST(BigDecimal, takesFifteenDigitsOfADouble) {
   EXPECT_EQ(str(BigDecimal(-0.0)), "0");
   EXPECT_EQ(str(BigDecimal(-2.5F)), "-2.5");
   EXPECT_EQ(BigDecimal(1e300).toDouble(), 1e300);
-  for (const double value : {NAN, HUGE_VAL, -HUGE_VAL}) {
+  for (const double value : {std::nan(""), HUGE_VAL, -HUGE_VAL}) {
     testing::internal::CaptureStderr();
     EXPECT_EQ(BigDecimal(value).sign(), 0);
     EXPECT_NE(testing::internal::GetCapturedStderr(), "");
