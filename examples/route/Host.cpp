@@ -84,7 +84,8 @@ void Host::reject(long& count, const std::string& reason, const std::string& lin
   if (!quiet) std::printf("%s: rejected, %s\n", origin.c_str(), reason.substr(0, reason.find('\n')).c_str());
 }
 
-void Host::printSummary() const {
+void Host::printSummary() {
+  progress.clear();
   const auto print = [](const char* indent, const std::string& what, long count) {
     std::printf("%s%-*s%8ld\n", indent, indent[0] == '\0' ? 28 : 26, what.c_str(), count);
   };

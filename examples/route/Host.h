@@ -18,7 +18,7 @@ class Host {
 
   /// Takes every line of `input`; `name` is how the output calls it. Throws std::system_error when reading fails.
   void takeAll(std::istream& input, const std::string& name);
-  void printSummary() const;
+  void printSummary();
 
  private:
   void take(const std::string& line, const std::string& origin);

@@ -11,9 +11,10 @@ class Progress {
   explicit Progress(bool quiet);
   Progress(const Progress&) = delete;
   Progress& operator=(const Progress&) = delete;
-  ~Progress();  ///< clears the line
+  ~Progress() { clear(); }
 
   void show(long messages);
+  void clear();  ///< takes the line off the screen, for other output
 
  private:
   using Clock = std::chrono::steady_clock;
