@@ -58,6 +58,10 @@ class VList : public Object {
     items().push_back(value);
     return *this;
   }
+  VList& add(T&& value) {
+    items().push_back(std::move(value));
+    return *this;
+  }
   void add(int index, const T& value) {  ///< before the element at `index`, or at the end
     assert(index >= 0 && index <= size());
     items().insert(getiteratorAt(index), value);
