@@ -1,5 +1,6 @@
 #include "Conversion.h"
 
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <charconv>
@@ -188,11 +189,6 @@ char* put(char* out, double value) {
   return putFraction(out, decimal.hundredMillionths);
 }
 
-template <class T>
-void putTerminated(char* out, T value) {
-  *put(out, value) = '\0';
-}
-
 template <int Size, class T>
 zkstring asString(T value) {
   char text[Size];
@@ -209,50 +205,121 @@ constexpr int smallRoom = 25;
 constexpr int largeRoom = 100;
 constexpr double longestInLargeRoom = 1e89;  // longer texts are made elsewhere, and take the room that they need
 
-/// Reads [p, end), which is not empty, by the rules of `v_atoi` and `v_atol`: Unsigned is as wide as the type asked
-/// for, `failure` throws the error of the given opening words and type name.
-///
-/// The value is collected below zero, with wrap-around, and each step only looks at the sign.
-template <class Unsigned, class Failure>
-std::make_signed_t<Unsigned> readWhole(const char* p, const char* end, const char* wrapped, const char* type,
-                                       Failure failure) {
-  using Signed = std::make_signed_t<Unsigned>;
-  const bool negative = *p == '-';
-  if (negative || *p == '+') ++p;
-  Unsigned value = 0;
-  for (; p != end; ++p) {
-    const unsigned int digit = static_cast<unsigned int>(*p) - '0';
-    if (digit > 9) failure("", type);
-    value = value * 10 - digit;
-    if (static_cast<Signed>(value) > 0) failure(wrapped, type);
-  }
-  if (negative) return static_cast<Signed>(value);
-  value = 0 - value;
-  if (static_cast<Signed>(value) < 0) failure("Integer overflow. ", "int");  // also said of a long
-  return static_cast<Signed>(value);
-}
-
 [[noreturn]] void cannotConvert(const char* opening, const char* begin, const char* end, const char* type) {
   const zkstring text(begin, static_cast<unsigned int>(end - begin));
   throwFrom(here, TransformException(opening + ("Cannot convert '" + text) + "' to " + type));
 }
 
+/// The four to eight characters at `p` as a word that ends with them and has '0' in front, as memory orders its bytes.
+std::uint64_t wordOf(const char* p, std::ptrdiff_t n) {
+  std::uint32_t first;
+  std::uint32_t last;  // overlaps the first in all that they have in common
+  std::memcpy(&first, p, sizeof first);
+  std::memcpy(&last, p + n - 4, sizeof last);
+  const auto shift = static_cast<unsigned int>(8 * (8 - n));
+  const std::uint64_t zeros = 0x3030303030303030 & ((std::uint64_t{1} << shift) - 1);
+  return zeros | std::uint64_t{first} << shift | std::uint64_t{last} << 32;
+}
+
+/// The four to eight digits at `p` as a number; false if one of them is none. All digits are added up at once: in
+/// pairs, then in fours, then in eights.
+bool readDigits(const char* p, std::ptrdiff_t n, std::uint32_t& number) {
+  if constexpr (std::endian::native != std::endian::little) return false;
+  std::uint64_t word = wordOf(p, n);
+  // A digit has a 3 in its upper half, and still has when 6 is added.
+  const std::uint64_t upper = word & 0xf0f0f0f0f0f0f0f0;
+  const std::uint64_t upperOfSum = (word + 0x0606060606060606) & 0xf0f0f0f0f0f0f0f0;
+  if ((upper | upperOfSum >> 4) != 0x3333333333333333) return false;
+  word = (word & 0x0f0f0f0f0f0f0f0f) * (1 + (10 << 8)) >> 8;
+  word = (word & 0x00ff00ff00ff00ff) * (1 + (100 << 16)) >> 16;
+  word = (word & 0x0000ffff0000ffff) * (1 + (std::uint64_t{10000} << 32)) >> 32;
+  number = static_cast<std::uint32_t>(word);
+  return true;
+}
+
+constexpr std::uint32_t powersOfTen[] = {1, 10, 100, 1000, 10'000, 100'000, 1'000'000, 10'000'000, 100'000'000};
+
+/// Up to three digits.
+bool readFew(const char* p, const char* end, std::uint32_t& number) {
+  number = 0;
+  for (; p != end; ++p) {
+    const unsigned int digit = static_cast<unsigned int>(*p) - '0';
+    if (digit > 9) return false;
+    number = number * 10 + digit;
+  }
+  return true;
+}
+
+/// How errors speak of a type: its name, and how the text for an overflow begins.
+template <class T>
+struct Wording;
+template <>
+struct Wording<int> {
+  static constexpr char type[] = "int";
+  static constexpr char wrapped[] = "Integer overflow. ";
+};
+template <>
+struct Wording<__int64> {
+  static constexpr char type[] = "long";
+  static constexpr char wrapped[] = "Long overflow. ";
+};
+
+/// Reads [begin, end), which is not empty, by the rules of `v_atoi` and `v_atol`.
+///
+/// The value is collected below zero, with wrap-around, and each step looks only at the sign. The digits that fit the
+/// type whatever they are need no look, and are taken several at a time.
+template <class T>
+[[gnu::noinline]] T readAnyWhole(const char* begin, const char* end) {
+  using Words = Wording<T>;
+  using Unsigned = std::make_unsigned_t<T>;
+  constexpr std::ptrdiff_t fitting = std::numeric_limits<T>::digits10;
+  const char* p = begin;
+  const bool negative = *p == '-';
+  if (negative || *p == '+') ++p;
+  const char* const unchecked = end - p > fitting ? p + fitting : end;
+  Unsigned value = 0;
+  while (unchecked - p >= 4) {
+    const std::ptrdiff_t n = std::min<std::ptrdiff_t>(unchecked - p, 8);
+    std::uint32_t number = 0;
+    if (!readDigits(p, n, number)) break;  // the steps below will find out
+    value = value * static_cast<Unsigned>(powersOfTen[n]) - number;
+    p += n;
+  }
+  for (; p != end; ++p) {
+    const unsigned int digit = static_cast<unsigned int>(*p) - '0';
+    if (digit > 9) cannotConvert("", begin, end, Words::type);
+    value = value * 10 - digit;
+    if (static_cast<T>(value) > 0) cannotConvert(Words::wrapped, begin, end, Words::type);
+  }
+  if (negative) return static_cast<T>(value);
+  value = 0 - value;
+  if (static_cast<T>(value) < 0) cannotConvert("Integer overflow. ", begin, end, "int");  // also said of a long
+  return static_cast<T>(value);
+}
+
+/// The same with a short road, which needs no loop and no registers to save, for numbers of up to eight digits.
+template <class T>
+T readWhole(const char* begin, const char* end) {
+  const bool negative = *begin == '-';
+  const char* const p = begin + (negative || *begin == '+');
+  const std::ptrdiff_t n = end - p;
+  std::uint32_t number = 0;
+  const bool isShort = n < 4 ? readFew(p, end, number) : n <= 8 && readDigits(p, n, number);
+  if (!isShort) return readAnyWhole<T>(begin, end);
+  return negative ? -static_cast<T>(number) : static_cast<T>(number);
+}
+
 }  // namespace
 
+void writeNumber(int value, char* out) { *put(out, value) = '\0'; }
+void writeNumber(__int64 value, char* out) { *put(out, value) = '\0'; }
+
 int v_atoi(const char* begin, const char* end) {
-  const auto failure = [=](const char* opening, const char* type) { cannotConvert(opening, begin, end, type); };
-  if (begin == end) failure("", "int");
-  return readWhole<std::uint32_t>(begin, end, "Integer overflow. ", "int", failure);
+  if (begin == end) cannotConvert("", begin, end, Wording<int>::type);
+  return readWhole<int>(begin, end);
 }
 
-__int64 v_atol(const char* begin, const char* end) {
-  if (begin == end) return 0;
-  const auto failure = [=](const char* opening, const char* type) { cannotConvert(opening, begin, end, type); };
-  return readWhole<std::uint64_t>(begin, end, "Long overflow. ", "long", failure);
-}
-
-void v_itoa(int value, char* out) { putTerminated(out, value); }
-void v_ltoa(__int64 value, char* out) { putTerminated(out, value); }
+__int64 v_atol(const char* begin, const char* end) { return begin != end ? readWhole<__int64>(begin, end) : 0; }
 
 zkstring bigIntegerToString(const BigInteger& value) { return value.toString(); }
 void bigIntegerToString(const BigInteger& value, zkstring& out) { out = value.toString(); }
@@ -279,7 +346,7 @@ void doubleToString(double value, zkstring& out) {
   fill(out, value, isLong ? doubleTextSize : largeRoom);
 }
 
-void doubleToString(double value, char* out) { putTerminated(out, value); }
+void doubleToString(double value, char* out) { *put(out, value) = '\0'; }
 
 zkstring floatToString(float value) { return doubleToString(double{value}); }
 void floatToString(float value, zkstring& out) { doubleToString(double{value}, out); }

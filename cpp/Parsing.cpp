@@ -8,7 +8,6 @@
 #include <ostream>
 #include <string>
 
-#include "Conversion.h"
 #include "Exceptions.h"
 #include "KelvaraTypes.h"
 #include "ThrowFrom.h"
@@ -113,9 +112,6 @@ zkstring printDate(const DateTime& date, const zkstring& plain, const zkstring& 
 constinit const zkstringliteral Parsing::TRUE_VALUE("true");
 constinit const zkstringliteral Parsing::FALSE_VALUE("false");
 constinit const zkstringliteral Parsing::EMPTY("");
-
-int Parsing::parseInt(const zkstring& text) { return v_atoi(text.data(), text.data() + text.length()); }
-__int64 Parsing::parseLong(const zkstring& text) { return v_atol(text.data(), text.data() + text.length()); }
 
 double Parsing::parseDouble(const zkstring& text) {
   const char* const end = text.data() + text.length();

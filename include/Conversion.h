@@ -1,5 +1,9 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
+#include <cstring>
+
 #include "zkstring.h"
 
 namespace zarvik {
@@ -57,9 +61,10 @@ void bigDecimalToString(const BigDecimal& value, zkstring& out);
 zkstring binaryToString(const Binary& value);      ///< the bytes as they are, sharing the block
 zkstring dateTimeToString(const DateTime& value);  ///< as "MMM dd, yyyy"
 
-/// Plain decimal text with a terminator: at most `intTextSize` and `longTextSize` bytes.
-void v_itoa(int value, char* out);
-void v_ltoa(__int64 value, char* out);
+/// Plain decimal text with a terminator into room for `intTextSize` or `longTextSize` bytes; values from 0 to 99, which
+/// most fields hold, take a look-up and three bytes.
+inline void v_itoa(int value, char* out);
+inline void v_ltoa(__int64 value, char* out);
 
 /// Read [begin, end) as an optional sign and digits, nothing else. A lone sign is 0. Throw TransformException for any
 /// other character, and for most texts out of range, but not for all: the value is collected with wrap-around, as a
@@ -67,5 +72,34 @@ void v_ltoa(__int64 value, char* out);
 /// 1410065407. An empty range is an error for `v_atoi` and 0 for `v_atol`.
 int v_atoi(const char* begin, const char* end);
 __int64 v_atol(const char* begin, const char* end);
+
+void writeNumber(int value, char* out);      ///< `v_itoa` but for its short road
+void writeNumber(__int64 value, char* out);  ///< `v_ltoa` but for its short road
+
+/// The texts of 0 to 99; a single digit has its terminator behind it.
+inline constexpr auto smallNumberTexts = [] {
+  std::array<std::array<char, 2>, 100> texts{};
+  for (unsigned int i = 0; i < 100; ++i) {
+    const char last = static_cast<char>('0' + i % 10);
+    if (i < 10) texts[i] = {last, '\0'};
+    if (i >= 10) texts[i] = {static_cast<char>('0' + i / 10), last};
+  }
+  return texts;
+}();
+
+inline void writeSmallNumber(std::size_t value, char* out) {
+  std::memcpy(out, smallNumberTexts[value].data(), 2);
+  out[2] = '\0';
+}
+
+inline void v_itoa(int value, char* out) {
+  if (value >= 0 && value < 100) return writeSmallNumber(static_cast<std::size_t>(value), out);
+  writeNumber(value, out);
+}
+
+inline void v_ltoa(__int64 value, char* out) {
+  if (value >= 0 && value < 100) return writeSmallNumber(static_cast<std::size_t>(value), out);
+  writeNumber(value, out);
+}
 
 }  // namespace zarvik

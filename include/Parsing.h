@@ -2,6 +2,7 @@
 
 #include <iosfwd>
 
+#include "Conversion.h"
 #include "WrapperObjects.h"
 #include "zkstring.h"
 
@@ -20,8 +21,8 @@ class Parsing {
   static const zkstringliteral EMPTY;
 
   /// The readers of Conversion.h, with their errors and their ways at the limits.
-  static int parseInt(const zkstring& text);
-  static __int64 parseLong(const zkstring& text);
+  static int parseInt(const zkstring& text) { return v_atoi(text.data(), text.data() + text.length()); }
+  static __int64 parseLong(const zkstring& text) { return v_atol(text.data(), text.data() + text.length()); }
 
   /// The number at the start of a text of digits, '+', '-', '.', 'e' and 'E', as the C library reads it: 1-2 is 1, an
   /// empty text is 0, out of range is infinity or what is left near 0. Any other character throws TransformException.
