@@ -50,11 +50,11 @@ int DataObjectMetaInfo::getFieldIndexIfExists(const zkstring& fieldName) const {
 
 FieldMetaInfo* DataObjectMetaInfo::getFieldMetaInfo(const zkstring& fieldName) const {
   if (FieldMetaInfo* const field = find(fieldName)) return field;
-  throwFrom(here, TransformException("Field with name " + fieldName + " not defined"));
+  throwFrom(here, FieldNotFoundException("Field with name " + fieldName + " not defined"));
 }
 
 void DataObjectMetaInfo::throwNotDefined(int index) {
-  throwFrom(here, TransformException("Field at index " + intToString(index) + " not defined"));
+  throwFrom(here, FieldNotFoundException("Field at index " + intToString(index) + " not defined"));
 }
 
 void DataObjectMetaInfo::addTable(const char* const* names, const char* const* types, int count,
@@ -76,8 +76,10 @@ void DataObjectMetaInfo::indexNames() {
     field->getMangledName();
     byName.push_back(field.get());
   }
-  std::stable_sort(byName.begin(), byName.end(),
-                   [](const FieldMetaInfo* a, const FieldMetaInfo* b) { return a->getName() < b->getName(); });
+  std::sort(byName.begin(), byName.end(), [](const FieldMetaInfo* a, const FieldMetaInfo* b) {
+    const int order = a->getName().compare(b->getName());
+    return order != 0 ? order < 0 : a->getIndex() < b->getIndex();
+  });
 }
 
 FieldMetaInfo* DataObjectMetaInfo::find(const zkstring& fieldName) const {

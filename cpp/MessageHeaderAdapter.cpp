@@ -1,6 +1,7 @@
 #include "MessageHeaderAdapter.h"
 
 #include "DataObject.h"
+#include "DataObjectMetaInfo.h"
 #include "SmartPtr.h"
 
 namespace zarvik {
@@ -22,7 +23,9 @@ zkstring MessageHeaderAdapter::getMessageType() { return getHeaderField(messageT
 zkstring MessageHeaderAdapter::getMessageVersion() { return getHeaderField(messageVersion); }
 
 zkstring MessageHeaderAdapter::getHeaderField(const zkstring& name) {
-  const SmartPtr<Object> field(message->getField(name));
+  const int index = message->getMetaInfo()->getFieldIndexIfExists(name);
+  if (index < 0) return {};
+  const SmartPtr<Object> field(message->getField(index));
   return field.isNull() ? zkstring() : field->toString();
 }
 

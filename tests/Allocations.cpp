@@ -10,10 +10,13 @@ std::atomic<long> allocations{0};
 
 long Allocations::total() { return allocations; }
 
-// The array and nothrow forms end here too.
-void* operator new(std::size_t size) {
+// The array forms end here too.
+void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
   ++allocations;
-  if (void* const block = std::malloc(size)) return block;
+  return std::malloc(size);
+}
+void* operator new(std::size_t size) {
+  if (void* const block = operator new(size, std::nothrow)) return block;
   throw std::bad_alloc();
 }
 void operator delete(void* block) noexcept { std::free(block); }

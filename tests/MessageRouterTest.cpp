@@ -3,9 +3,11 @@
 #include <sstream>
 #include <stdexcept>
 
-#include "DataObject.h"
+#include "DataObjectMetaInfo.h"
 #include "Exceptions.h"
+#include "GenericDataObject.h"
 #include "InputSource.h"
+#include "KelvaraTypes.h"
 #include "LookupContextFactory.h"
 #include "MessageHeaderAdapter.h"
 #include "ObjectFactory.h"
@@ -26,29 +28,31 @@ Properties propertiesOf(const std::string& text) {
   return properties;
 }
 
-class Text : public Object {
- public:
-  Text(const zkstring& text) : text(text) {}
-  zkstring toString() const override { return text; }
-
- private:
-  zkstring text;
-};
+/// Metadata with a text field for each property; the caller's.
+DataObjectMetaInfo* metaInfoOf(const Properties& fields) {
+  std::vector<FieldMetaInfo> all;
+  all.reserve(fields.size());
+  std::vector<FieldMetaInfo*> pointers;
+  for (const auto& [name, text] : fields) {
+    pointers.push_back(&all.emplace_back(name, KelvaraTypes::STRING_TYPE, true));
+  }
+  return new DataObjectMetaInfo("Message", pointers.data(), static_cast<int>(pointers.size()));
+}
 
 /// A message of the given header fields. A field read is a new object.
-class Message : public DataObject {
+class Message : public GenericDataObject {
  public:
-  explicit Message(const Properties& fields) : fields(fields) {}
-  Object* getField(const zkstring& name) const override {
-    ++reads;
-    const auto field = fields.find(name);
-    return field != fields.end() ? new Text(field->second) : nullptr;
+  explicit Message(const Properties& fields) : GenericDataObject(metaInfoOf(fields), true) {
+    for (const auto& [name, text] : fields) setField(name, text);
   }
+  using GenericDataObject::getField;
+  Object* getField(int index) const override {
+    ++reads;
+    return GenericDataObject::getField(index);
+  }
+  using GenericDataObject::toXMLString;
   zkstring toXMLString() override { return "<Message/>"; }
   inline static int reads = 0;
-
- private:
-  Properties fields;
 };
 
 class Source : public InputSource {

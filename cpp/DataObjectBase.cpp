@@ -1,0 +1,181 @@
+#include "DataObjectBase.h"
+
+#include "DataObjectMetaInfo.h"
+#include "DataObjectSection.h"
+#include "DataObjectXML.h"
+#include "Exceptions.h"
+#include "FromCatalogue.h"
+#include "GuardedCast.h"
+#include "LiteralTail.h"
+#include "Parsing.h"
+#include "SectionObject.h"
+#include "ThrowFrom.h"
+
+namespace zarvik {
+namespace {
+
+constexpr char here[] = "cpp/DataObjectBase";
+
+void appendTag(zkstringbuffer& out, int level, const char* open, const zkstring& tag) {
+  DataObjectXML::appendIndent(out, level);
+  out.append(open).append(tag).append(">\n", 2);
+}
+
+void copySection(const DataObjectSection& source, DataObjectSection& target) {
+  target.clear();
+  for (int i = 0; i < source.getElementCount(); ++i) {
+    const SmartPtr<DataObject> element(target.createElement());
+    DataObjectBase::copy(source.getElement(i), element.get());
+    target.addElement(element.get());
+  }
+}
+}  // namespace
+
+DataObjectSection* DataObjectBase::getSection(int index) const {
+  const SmartPtr<Object> field(getField(index));
+  return guardedCast<SectionObject>(field.get())->getSection();
+}
+DataObjectSection* DataObjectBase::getSection(const zkstring& name) const { return getSection(getFieldIndex(name)); }
+
+bool DataObjectBase::getField(const zkstring& name, Object& target) const {
+  return getField(getFieldIndex(name), target);
+}
+Object* DataObjectBase::getField(const zkstring& name) const { return getField(getFieldIndex(name)); }
+
+Object* DataObjectBase::getFieldCheckNull(int index) const {
+  if (Object* const field = getField(index)) return field;
+  throwFrom(here, fromCatalogue<TransformNullValueException>("SRT500", {nameForError(index)}));
+}
+
+SmartPtr<Object> DataObjectBase::getFieldVal(int index) { return getField(index); }
+SmartPtr<Object> DataObjectBase::getFieldVal(const zkstring& name) { return getField(name); }
+SmartPtr<Object> DataObjectBase::getFieldCheckNullVal(int index) { return getFieldCheckNull(index); }
+
+bool DataObjectBase::isNull(const zkstring& name) const { return isNull(getFieldIndex(name)); }
+void DataObjectBase::setNull(const zkstring& name) { setNull(getFieldIndex(name)); }
+
+void DataObjectBase::setField(int index, const Object& value) { setField(index, &value); }
+void DataObjectBase::setField(const zkstring& name, const Object& value) { setField(name, &value); }
+void DataObjectBase::setField(const zkstring& name, const Object* value) { setField(getFieldIndex(name), value); }
+
+int DataObjectBase::getFieldIndex(const zkstring& name) const { return getMetaInfo()->getFieldIndex(name); }
+const zkstring& DataObjectBase::getFieldType(const zkstring& name) const {
+  return getMetaInfo()->getFieldMetaInfo(name)->getType();
+}
+const zkstring& DataObjectBase::getFieldType(int index) const { return getMetaInfo()->getFieldType(index); }
+const zkstring& DataObjectBase::getFieldName(int index) const { return getMetaInfo()->getFieldName(index); }
+
+zkstring DataObjectBase::getQualifiedName(int index) {
+  DataObjectSection* const section = getParentSection();
+  const zkstring& name = getFieldName(index);
+  return section != nullptr ? section->getQualifiedName() + "." + name : name;
+}
+
+int DataObjectBase::getFieldCount() const { return getMetaInfo()->getFieldCount(); }
+
+zkstring DataObjectBase::toXMLString() {
+  zkstringbuffer out;
+  appendTag(out, 0, "<", getRootXMLTag());
+  out.append(toXMLStringImpl(1));
+  appendTag(out, 0, "</", getRootXMLTag());
+  return out;
+}
+
+zkstring DataObjectBase::toXMLString(int level) {
+  if (getParentSection() != nullptr) return toXMLStringImpl(level);
+  zkstringbuffer out;
+  appendTag(out, level - 1, "<", getRootXMLTag());
+  out.append(toXMLStringImpl(level));
+  appendTag(out, level - 1, "</", getRootXMLTag());
+  return out;
+}
+
+DataObject* DataObjectBase::getRootDataObject() const {
+  const DataObjectSection* const section = getParentSection();
+  return section != nullptr ? section->getRootDataObject() : const_cast<DataObjectBase*>(this);
+}
+
+void DataObjectBase::read(std::istream& /*in*/) {}
+void DataObjectBase::write(std::ostream& /*out*/) const {}
+
+zkstring DataObjectBase::toString() const {
+  zkstringbuffer out;
+  for (int i = 0; i < getFieldCount(); ++i) {
+    if (i > 0) out.append(", ");
+    out.append(getFieldName(i)).append('=');
+    const SmartPtr<Object> field(getField(i));
+    if (!field.isNull()) out.append(field->toString());
+  }
+  return out;
+}
+
+bool DataObjectBase::getField(int index, zkstring& text) const {
+  StringObject value;
+  if (!getField(index, value)) return false;
+  text = value.getValue();
+  return true;
+}
+
+void DataObjectBase::setField(int index, const zkstring& text) {
+  const StringObject value(text);
+  setField(index, static_cast<const Object&>(value));
+}
+
+void DataObjectBase::setField(const zkstring& name, const zkstring& text) {
+  const StringObject value(text);
+  setField(name, static_cast<const Object&>(value));
+}
+
+const zkstring& DataObjectBase::getMangledName(int index) const { return getMetaInfo()->getMangledName(index); }
+const zkstring& DataObjectBase::getMangledName(const zkstring& name) const {
+  return getMetaInfo()->getMangledName(name);
+}
+
+void DataObjectBase::copy(const DataObject* source, DataObject* target) {
+  for (int i = 0; i < source->getFieldCount(); ++i) {
+    const SmartPtr<Object> field(source->getField(i));
+    if (field.isNull()) {
+      target->setNull(i);
+    } else if (const auto* section = dynamic_cast<const SectionObject*>(field.get())) {
+      copySection(*section->getSection(), *target->getSection(i));
+    } else {
+      target->setField(i, field.get());
+    }
+  }
+}
+
+zkstring DataObjectBase::getRootXMLTag() { return zkstringliteral("DataObject"); }
+
+DataObject* DataObjectBase::createSectionElement(const zkstring& /*sectionName*/,
+                                                 DataObjectSection* /*section*/) const {
+  return nullptr;
+}
+
+zkstring DataObjectBase::toXMLStringImpl(int level) {
+  zkstringbuffer out;
+  for (int i = 0; i < getFieldCount(); ++i) {
+    if (isNull(i)) continue;
+    const SmartPtr<Object> value(getField(i));
+    if (value.isNull()) continue;
+    const zkstring& tag = getMangledName(i);
+    if (const auto* section = dynamic_cast<const SectionObject*>(value.get())) {
+      section->getSection()->appendXML(out, tag, level);
+      continue;
+    }
+    DataObjectXML::appendIndent(out, level);
+    out.append('<').append(tag).append('>');
+    out.append(DataObjectXML::fixXMLCharData(Parsing::runtimeObjectToString(value.get(), getFieldType(i))));
+    out.append("</", 2).append(tag).append(">\n", 2);
+  }
+  return out;
+}
+
+zkstring DataObjectBase::nameForError(int index) const {
+  try {
+    return const_cast<DataObjectBase*>(this)->getQualifiedName(index);
+  } catch (const Exception&) {
+    return literalTail("at index ", index);
+  }
+}
+
+}  // namespace zarvik
