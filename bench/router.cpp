@@ -6,7 +6,8 @@
 #include <vector>
 
 #include "Allocations.h"
-#include "DataObject.h"
+#include "DataObjectMetaInfo.h"
+#include "GenericDataObject.h"
 #include "InputSource.h"
 #include "LookupContextFactory.h"
 #include "MessageRouter.h"
@@ -32,37 +33,24 @@ class Source : public InputSource {
   }
 };
 
-/// A field that is counted, so that reading it allocates nothing.
-class Field : public ObjectRef {
- public:
-  explicit Field(const char* text) : text(text) {}
-  zkstring toString() const override { return text; }
+const char* const fieldNames[] = {"MessageFormat", "MessageVersion", "MessageType"};
+const char* const fieldTypes[] = {"String", "String", "String"};
 
- private:
-  zkstring text;
-};
-
-class Message : public DataObject {
- public:
-  Object* getField(const zkstring& name) const override {
-    if (name == "MessageFormat") return formatField.get();
-    if (name == "MessageVersion") return versionField.get();
-    return typeField.get();
-  }
-  zkstring toXMLString() override { return {}; }
-
- private:
-  SmartPtr<Object> formatField{new Field(format)};
-  SmartPtr<Object> versionField{new Field(version)};
-  SmartPtr<Object> typeField{new Field(types[0])};
-};
+DataObject* makeMessage() {
+  static DataObjectMetaInfo info(zkstringliteral("Header"), fieldNames, fieldTypes, 3);
+  auto* const message = new GenericDataObject(&info, false);
+  message->setField(0, zkstring(format));
+  message->setField(1, zkstring(version));
+  message->setField(2, zkstring(types[0]));
+  return message;
+}
 
 class Identifier : public MessageIdentifier {
  public:
   DataObject* identifyMessage(InputSource& /*source*/) override { return message.get(); }
 
  private:
-  SmartPtr<DataObject> message{new Message};
+  SmartPtr<DataObject> message{makeMessage()};
 };
 
 class SilentFormat : public IInputFormat {
