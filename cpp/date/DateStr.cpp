@@ -58,6 +58,7 @@ std::uint64_t wordAt(const char* at) {
   return word;
 }
 
+/// The same number of a constant.
 constexpr std::uint64_t wordOf(std::string_view text) {
   std::uint64_t word = 0;
   for (std::size_t i = text.size(); i-- > 0;) word = word << 8 | static_cast<unsigned char>(text[i]);
@@ -112,9 +113,8 @@ inline char* milliseconds(char* out, int value) {
   return pair(out + 1, static_cast<unsigned int>(value % 100));
 }
 
-inline __int64 magnitude(int year) { return std::abs(__int64{year}); }
-
-inline char* printYear(char* out, __int64 year, std::size_t run) {
+inline char* printYear(char* out, int signedYear, std::size_t run) {
+  const __int64 year = std::abs(__int64{signedYear});
   if (run != 4) return pair(out, static_cast<unsigned int>(year % 100));
   if (year > 9999) return padded(out, year, 5);
   return pair(pair(out, static_cast<unsigned int>(year / 100)), static_cast<unsigned int>(year % 100));
@@ -127,52 +127,52 @@ inline char* printMonth(char* out, int month, std::size_t run) {
   return copy(out, run == 3 ? name.substr(0, 3) : name);
 }
 
-inline char* printDate(char* out, const DateStr::Fields& fields) {
-  return twoDigits(twoDigits(printYear(out, magnitude(fields.year), 4), fields.month), fields.day);
+inline char* printDate(char* out, const DateTime& value) {
+  return twoDigits(twoDigits(printYear(out, value.getYear(), 4), value.getMonth()), value.getDate());
 }
 
-inline char* printTime(char* out, const DateStr::Fields& fields) {
-  out = twoDigits(out, fields.hours);
+inline char* printTime(char* out, const DateTime& value) {
+  out = twoDigits(out, value.getHours());
   *out++ = ':';
-  out = twoDigits(out, fields.minutes);
+  out = twoDigits(out, value.getMinutes());
   *out++ = ':';
-  return twoDigits(out, fields.seconds);
+  return twoDigits(out, value.getSeconds());
 }
 
-inline char* printRun(char* out, const DateStr::Fields& fields, char letter, std::size_t run) {
+inline char* printRun(char* out, const DateTime& value, char letter, std::size_t run) {
   switch (letter) {
     case 'y':
-      return printYear(out, magnitude(fields.year), run);
+      return printYear(out, value.getYear(), run);
     case 'M':
-      return printMonth(out, fields.month, run);
+      return printMonth(out, value.getMonth(), run);
     case 'd':
-      return twoDigits(out, fields.day);
+      return twoDigits(out, value.getDate());
     case 'H':
-      return twoDigits(out, fields.hours);
+      return twoDigits(out, value.getHours());
     case 'm':
-      return twoDigits(out, fields.minutes);
+      return twoDigits(out, value.getMinutes());
     case 's':
-      return twoDigits(out, fields.seconds);
+      return twoDigits(out, value.getSeconds());
     default:
-      return milliseconds(out, fields.milliseconds);
+      return milliseconds(out, value.getMilliSeconds());
   }
 }
 }  // namespace
 
-char* DateStr::print(char* out, const Fields& fields, std::string_view pattern) {
+char* DateStr::print(char* out, const DateTime& value, std::string_view pattern) {
   const char* const end = pattern.data() + pattern.size();
   for (const char* at = pattern.data(); at != end;) {
     if (!isFieldLetter(*at)) {
       *out++ = *at++;
     } else if (blockAt(at, end, dateBlock)) {
-      out = printDate(out, fields);
+      out = printDate(out, value);
       at += blockSize;
     } else if (blockAt(at, end, timeBlock)) {
-      out = printTime(out, fields);
+      out = printTime(out, value);
       at += blockSize;
     } else {
       const std::size_t run = runAt(at, end);
-      out = printRun(out, fields, *at, run);
+      out = printRun(out, value, *at, run);
       at += run;
     }
   }
@@ -246,6 +246,17 @@ class DigitBlock {
   std::uint64_t pairs;  ///< in each byte the number that its digit and the next one spell
 };
 
+/// What is read; by default what fields that a pattern lacks are read as.
+struct Fields {
+  int year = 1970;
+  int month = 1;
+  int day = 1;
+  int hours = 0;
+  int minutes = 0;
+  int seconds = 0;
+  int milliseconds = 0;
+};
+
 /// The place in a text that is read by a pattern; never behind the text's end.
 class Cursor {
  public:
@@ -287,7 +298,7 @@ class Cursor {
   }
 
   /// The fields of a block, if eight characters of the right kind are there; otherwise nothing is read.
-  bool date(DateStr::Fields& fields) {
+  bool date(Fields& fields) {
     if (rest().size() < blockSize) return false;
     const DigitBlock block(wordAt<blockSize>(at), wordOf("00000000"));
     if (!block.isWithin(0x0909090909090909U)) return false;
@@ -298,7 +309,7 @@ class Cursor {
     return true;
   }
 
-  bool time(DateStr::Fields& fields) {
+  bool time(Fields& fields) {
     if (rest().size() < blockSize) return false;
     const DigitBlock block(wordAt<blockSize>(at), wordOf("00:00:00"));
     if (!block.isWithin(0x0909000909000909U)) return false;
@@ -309,7 +320,7 @@ class Cursor {
     return true;
   }
 
-  bool fraction(DateStr::Fields& fields) {
+  bool fraction(Fields& fields) {
     if (rest().size() < fractionSize) return false;
     const DigitBlock block(wordAt<fractionSize>(at), wordOf(".000"));
     if (!block.isWithin(0x09090900U)) return false;
@@ -376,7 +387,7 @@ inline int readMilliseconds(Cursor& cursor, std::size_t run, const Source& sourc
   return cursor.upToThreeDigits();
 }
 
-void readRun(Cursor& cursor, DateStr::Fields& fields, const Source& source, std::size_t start, std::size_t run) {
+void readRun(Cursor& cursor, Fields& fields, const Source& source, std::size_t start, std::size_t run) {
   switch (source.pattern[start]) {
     case 'y':
       fields.year = readYear(cursor, run, source);
@@ -402,7 +413,7 @@ void readRun(Cursor& cursor, DateStr::Fields& fields, const Source& source, std:
 }
 
 /// Reads run by run from `at` of the pattern on, and raises all errors.
-[[gnu::noinline]] DateStr::Fields readRuns(Cursor cursor, DateStr::Fields fields, Source source, const char* at) {
+[[gnu::noinline]] Fields readRuns(Cursor cursor, Fields fields, Source source, const char* at) {
   const char* const end = source.pattern.data() + source.pattern.size();
   while (at != end) {
     const std::size_t run = isFieldLetter(*at) ? runAt(at, end) : 1;
@@ -417,14 +428,14 @@ void readRun(Cursor& cursor, DateStr::Fields& fields, const Source& source, std:
   return fields;
 }
 
-DateTime dateTimeOf(const DateStr::Fields& fields) {
+DateTime dateTimeOf(const Fields& fields) {
   return DateTime(fields.year, fields.month, fields.day, fields.hours, fields.minutes, fields.seconds,
                   fields.milliseconds);
 }
 
 /// Reads what most patterns are: a date block, a literal, a time block, or the first or last of them alone. Gives the
 /// place in the pattern up to which that went.
-inline const char* readBlocks(Cursor& cursor, DateStr::Fields& fields, const char* at, const char* end) {
+inline const char* readBlocks(Cursor& cursor, Fields& fields, const char* at, const char* end) {
   if (blockAt(at, end, dateBlock) && cursor.date(fields)) at += blockSize;
   if (at != end && !isFieldLetter(*at) && cursor.literal(*at)) ++at;
   if (blockAt(at, end, timeBlock) && cursor.time(fields)) {

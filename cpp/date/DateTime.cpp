@@ -15,11 +15,6 @@ namespace {
 
 constexpr char here[] = "cpp/date/DateTime";
 
-DateStr::Fields fieldsOf(const DateTime& value) {
-  return {value.getYear(),    value.getMonth(),   value.getDate(),        value.getHours(),
-          value.getMinutes(), value.getSeconds(), value.getMilliSeconds()};
-}
-
 /// Odd on purpose: days of the month are compared as they stand, so that the turn of a month gives a wrong offset.
 int takeLocalOffset() {
   const std::time_t instant = std::time(nullptr);
@@ -42,7 +37,7 @@ const DateTime& epoch() {
 }  // namespace
 
 unsigned int DateTime::print(char* out, std::string_view pattern) const {
-  char* const end = DateStr::print(out, fieldsOf(*this), pattern);
+  char* const end = DateStr::print(out, *this, pattern);
   *end = '\0';
   return static_cast<unsigned int>(end - out);
 }
@@ -52,12 +47,12 @@ zkstring DateTime::toString(const zkstring& pattern) const {
   const std::size_t room = view.size() * DateStr::WIDEST_CHARACTER;
   char text[256];
   if (room <= sizeof text) {
-    return zkstring(text, static_cast<unsigned int>(DateStr::print(text, fieldsOf(*this), view) - text));
+    return zkstring(text, static_cast<unsigned int>(DateStr::print(text, *this, view) - text));
   }
   if (room > std::numeric_limits<int>::max()) throw std::length_error("date pattern");
   zkstring result;
   char* const out = result.getBuffer(static_cast<int>(room));
-  result.setBufferLength(static_cast<int>(DateStr::print(out, fieldsOf(*this), view) - out));
+  result.setBufferLength(static_cast<int>(DateStr::print(out, *this, view) - out));
   return result;
 }
 

@@ -6,7 +6,7 @@
 
 namespace zarvik {
 
-/// The pattern engine of the dates: prints and reads the seven fields by patterns such as "yyyyMMdd-HH:mm:ss.SSS".
+/// The pattern engine of the dates: prints and reads dates by patterns such as "yyyyMMdd-HH:mm:ss.SSS".
 ///
 /// A run of one letter is one unit; there is no quoting, other characters stand for themselves.
 ///
@@ -21,25 +21,15 @@ namespace zarvik {
 /// | yy          | two digits, also for all other runs of y      | two characters, from 70 in the 1900s, else 2000s |
 ///
 /// Number fields read digits as far as they go and step over their full width, so that a short field gives a smaller
-/// number and no error. Neither direction allocates, and no text is looked at beyond its end.
+/// number and no error. What a pattern lacks is read as that of 1 January 1970, 00:00. Neither direction allocates, and
+/// no text is looked at beyond its end. The usual sequences of runs are printed and read as blocks of eight characters.
 class DateStr {
  public:
-  /// What is printed and read; by default what fields that a pattern lacks are read as.
-  struct Fields {
-    int year = 1970;
-    int month = 1;
-    int day = 1;
-    int hours = 0;
-    int minutes = 0;
-    int seconds = 0;
-    int milliseconds = 0;
-  };
-
   /// The longest text that one character of a pattern can give: milliseconds outside their range.
   static constexpr unsigned int WIDEST_CHARACTER = 11;
 
   /// Prints to `out`, which has room for it, without a terminator, and gives the end. The year's sign is dropped.
-  static char* print(char* out, const Fields& fields, std::string_view pattern);
+  static char* print(char* out, const DateTime& value, std::string_view pattern);
 
   /// Throws TransformRuntimeException for a run that cannot be read, a month name or literal that is not there, text
   /// left over, and fields that are not in the calendar.

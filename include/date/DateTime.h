@@ -51,8 +51,8 @@ class DateTime {
     if (!isValid()) throwInvalid();
   }
 
-  /// Prints by `pattern` and terminates; the result is the length. `size` is no bound: `out` has room for the text,
-  /// which is at most twice as long as the pattern with every run of letters written to its full width.
+  /// Prints by `pattern` and terminates; the result is the length without the terminator. `size` is no bound: `out` has
+  /// room for the text, whose runs are as wide as DateStr.h tells (three bytes for a lone S).
   unsigned int asString(char* out, unsigned int /*size*/, const char* pattern) const {
     return print(out, std::string_view(pattern));  // here, so that constant patterns are measured by the compiler
   }
