@@ -219,7 +219,8 @@ TEST(MAPM, movesTouchNoCountAndLeaveZero) {
   EXPECT_EQ(target.cval(), other.cval());
   EXPECT_EQ(source.sign(), 0);  // NOLINT(bugprone-use-after-move)
   EXPECT_EQ(general(++source), "1.0E+0");
-  target = std::move(target);
+  Number& same = target;
+  target = std::move(same);
   EXPECT_EQ(general(target), "1.2E+1");
 }
 
