@@ -25,9 +25,15 @@ std::vector<std::string> randomTexts(int digits) {
     std::string text;
     for (int k = 0; k < digits; ++k) text += static_cast<char>('0' + random() % 10);
     text.front() = text.back() = '7';
-    texts.push_back(text.insert(text.size() / 2, "."));
+    text[text.size() / 2] = '.';
+    texts.push_back(text);
   }
   return texts;
+}
+
+std::string subject(const char* operation, const std::string& digits) {
+  std::string name = operation;
+  return name.append(digits);
 }
 
 /// Goes round the numbers, so that no operation sees the same operands twice in a row.
@@ -48,7 +54,7 @@ template <class Number>
 void arithmetic(const std::string& digits, const char* who, const std::vector<std::string>& texts) {
   Operands<Number> operands(texts);
   const auto each = [&](const char* name, auto operation) {
-    measure(name + digits, who, [operands, operation]() mutable {
+    measure(subject(name, digits), who, [operands, operation]() mutable {
       operands.step();
       return Number(operation(operands.a(), operands.b()));
     });
@@ -56,14 +62,14 @@ void arithmetic(const std::string& digits, const char* who, const std::vector<st
   each("add, ", [](const Number& a, const Number& b) { return a + b; });
   each("multiply, ", [](const Number& a, const Number& b) { return a * b; });
   each("divide, ", [](const Number& a, const Number& b) { return a / b; });
-  measure("from text, " + digits, who, [texts, at = std::size_t{0}]() mutable {
+  measure(subject("from text, ", digits), who, [texts, at = std::size_t{0}]() mutable {
     at = (at + 1) % pairs;
     return Number(texts[at].c_str());
   });
 }
 
 void textOfOurs(const std::string& digits, const std::vector<std::string>& texts) {
-  measure("to text, " + digits, ours, [operands = Operands<BigDecimal>(texts)]() mutable {
+  measure(subject("to text, ", digits), ours, [operands = Operands<BigDecimal>(texts)]() mutable {
     operands.step();
     return operands.a().toString();
   });
@@ -74,7 +80,7 @@ template <unsigned Digits>
 void peer(const std::string& digits, const std::vector<std::string>& texts) {
   using Number = boost::multiprecision::number<boost::multiprecision::cpp_dec_float<Digits>>;
   arithmetic<Number>(digits, "cpp_dec_float", texts);
-  measure("to text, " + digits, "cpp_dec_float", [operands = Operands<Number>(texts)]() mutable {
+  measure(subject("to text, ", digits), "cpp_dec_float", [operands = Operands<Number>(texts)]() mutable {
     operands.step();
     return operands.a().str(0, std::ios_base::fixed);
   });
@@ -87,7 +93,7 @@ void peer(const std::string&, const std::vector<std::string>&) {}
 template <unsigned Digits>
 void operationsOn() {
   const std::vector<std::string> texts = randomTexts(Digits);
-  const std::string digits = std::to_string(Digits) + " digits";
+  const std::string digits = std::to_string(Digits).append(" digits");
   arithmetic<BigDecimal>(digits, ours, texts);
   textOfOurs(digits, texts);
   if constexpr (Digits <= 1000) peer<Digits>(digits, texts);  // its numbers lie on the stack

@@ -28,11 +28,11 @@ BigDecimal numberOf(const std::string& text) {
 
 /// Writes all texts of the number; what is exact has to read back as the same number.
 void writeAll(const BigDecimal& value) {
-  constexpr long long most = 100'000;
-  std::vector<char> text(static_cast<std::size_t>(value.significant_digits()) + 200'000);
+  constexpr std::size_t most = 20'000;
+  std::vector<char> text(static_cast<std::size_t>(value.significant_digits()) + most + 100);
   value.MAPM::toString(text.data(), -1);
   if (BigDecimal(text.data()) != value) std::abort();
-  if (value.fixPtLength(-1) < most) {
+  if (value.fixPtLength(-1) < static_cast<long long>(most)) {
     const zkstring fixed = value.toString();
     if (BigDecimal(fixed) != value) std::abort();
     value.toFixPtStringEx(text.data(), 7, ',', '.', 3);
@@ -45,6 +45,12 @@ void writeAll(const BigDecimal& value) {
     value.toLong();
   } catch (const zarvik::TransformException&) {  // out of range
   }
+}
+
+/// Neither short nor refused: millions of digits take their time and show nothing new.
+bool isSlow(const BigDecimal& value) {
+  const long long power = std::abs(static_cast<long long>(value.exponent()));
+  return power > 20'000 && power < 2 * M_APM_MAX_DIGITS;
 }
 
 BigDecimal calculate(char operation, const BigDecimal& a, const BigDecimal& b) {
@@ -73,7 +79,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const BigDecimal a = numberOf(nextLine(input));
   const BigDecimal b = numberOf(input);
   writeAll(a);
+  if (isSlow(a) || isSlow(b)) return 0;
   const BigDecimal result = calculate(operation.empty() ? ' ' : operation[0], a, b);
-  if (result.significant_digits() < 1'000'000) writeAll(result);
+  writeAll(result);
   return 0;
 }
