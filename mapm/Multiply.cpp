@@ -5,6 +5,7 @@
 namespace zarvik::mapm {
 namespace {
 
+constexpr int karatsubaFrom = 24;     ///< words of both operands; measured
 constexpr int convolutionFrom = 250;  ///< words of the shorter operand; measured
 
 /// The sum of a[i] * b[-i].
@@ -20,6 +21,13 @@ DoubleWord column(const Word* a, const Word* b, int n) {
   return sum;
 }
 
+/// Carries the columns on: afterwards each is a word.
+void carryColumns(Word* out, const DoubleWord* columns, int n) {
+  Word carry = 0;
+  for (int k = 0; k < n - 1; ++k) carry = divideByBase(carry + columns[k], out[k]);
+  out[n - 1] = carry;
+}
+
 /// Column by column: a column of up to `convolutionFrom` products and the carry fits into a double word.
 void multiplyColumns(Word* out, const Word* a, int na, const Word* b, int nb) {
   Word carry = 0;
@@ -31,11 +39,62 @@ void multiplyColumns(Word* out, const Word* a, int na, const Word* b, int nb) {
   out[na + nb - 1] = carry;
 }
 
-/// Two words by two.
-void multiplyPairs(Word* out, const Word* a, const Word* b) {
-  Word carry = divideByBase(DoubleWord{a[0]} * b[0], out[0]);
-  carry = divideByBase(carry + DoubleWord{a[0]} * b[1] + DoubleWord{a[1]} * b[0], out[1]);
-  out[3] = divideByBase(carry + DoubleWord{a[1]} * b[1], out[2]);
+/// Column k of n words by n. With n known to the compiler it becomes a run of multiplications without a branch.
+template <int n>
+DoubleWord fixedColumn(const Word* a, const Word* b, int k) {
+  DoubleWord sum = 0;
+#pragma GCC unroll 16
+  for (int i = 0; i < n; ++i) {
+    if (i <= k && k - i < n) sum += DoubleWord{a[i]} * b[k - i];
+  }
+  return sum;
+}
+
+template <int n>
+void multiplyFixed(Word* out, const Word* a, const Word* b) {
+  Word carry = 0;
+#pragma GCC unroll 16
+  for (int k = 0; k < 2 * n - 1; ++k) carry = divideByBase(carry + fixedColumn<n>(a, b, k), out[k]);
+  out[2 * n - 1] = carry;
+}
+
+/// The columns of a * b, both of n words, without carries: 2n - 1 of them. By three products of halves (Karatsuba);
+/// the sums of halves need no carries either, since words have room above the base. `scratch` has 4n places.
+void karatsuba(DoubleWord* out, const Word* a, const Word* b, int n, DoubleWord* scratch) {
+  if (n < karatsubaFrom) {
+    for (int k = 0; k < 2 * n - 1; ++k) {
+      const int first = std::max(0, k - n + 1);
+      out[k] = column(a + first, b + k - first, k - 2 * first + 1);
+    }
+    return;
+  }
+  const int low = (n + 1) / 2;
+  const int high = n - low;
+  Word* const sumA = reinterpret_cast<Word*>(scratch);
+  Word* const sumB = sumA + low;
+  for (int i = 0; i < low; ++i) {
+    sumA[i] = a[i] + (i < high ? a[low + i] : 0);
+    sumB[i] = b[i] + (i < high ? b[low + i] : 0);
+  }
+  DoubleWord* const middle = scratch + low;
+  DoubleWord* const rest = middle + 2 * low;
+  karatsuba(middle, sumA, sumB, low, rest);
+  karatsuba(out, a, b, low, rest);
+  karatsuba(out + 2 * low, a + low, b + low, high, rest);
+  out[2 * low - 1] = 0;
+  for (int i = 0; i < 2 * low - 1; ++i) middle[i] -= out[i];
+  for (int i = 0; i < 2 * high - 1; ++i) middle[i] -= out[2 * low + i];
+  for (int i = 0; i < 2 * low - 1; ++i) out[low + i] += middle[i];
+}
+
+/// For operands of about the same length: the shorter one is filled up.
+void multiplyByKaratsuba(Word* out, const Word* a, int na, const Word* b, int nb) {
+  WordBuffer<1024> room(13 * na);
+  Word* const filled = room + 12 * na;
+  std::fill(std::copy_n(b, nb, filled), filled + na, Word{0});
+  DoubleWord* const columns = reinterpret_cast<DoubleWord*>(static_cast<Word*>(room));
+  karatsuba(columns, a, filled, na, columns + 2 * na);
+  carryColumns(out, columns, na + nb);
 }
 
 /// Piece by piece of the longer operand, so that both operands of a convolution are about equally long.
@@ -49,16 +108,28 @@ void multiplyPieces(Word* out, const Word* a, int na, const Word* b, int nb) {
     addWords(out + from, na + nb - from, product, count + nb);
   }
 }
+
+/// sign * a * b / base^2 * 10^exponent; both fractions begin with a digit other than 0.
+void multiplyOneWord(M_APM_struct* result, Word a, Word b, long long exponent, int sign) {
+  DoubleWord product = DoubleWord{a} * b;
+  if (product < DoubleWord{base / 10} * base) {  // brings the first digit to the front
+    product *= 10;
+    --exponent;
+  }
+  Word low;
+  const Word high = divideByBase(product, low);
+  storeWords(makeRoom(result, 16), high, low);
+  normalise(result, 16, exponent, sign);
+}
 }  // namespace
 
 void multiplyWords(Word* out, const Word* a, int na, const Word* b, int nb) {
   if (na < nb) return multiplyWords(out, b, nb, a, na);
-  if (na == 1) {
-    out[1] = divideByBase(DoubleWord{*a} * *b, out[0]);
-    return;
-  }
-  if (na == 2 && nb == 2) return multiplyPairs(out, a, b);
-  if (nb < convolutionFrom) return multiplyColumns(out, a, na, b, nb);
+  if (na == nb && na <= 2) return na == 1 ? multiplyFixed<1>(out, a, b) : multiplyFixed<2>(out, a, b);
+  if (na == nb && na == 7) return multiplyFixed<7>(out, a, b);  // 97 to 112 digits
+  if (nb < karatsubaFrom) return multiplyColumns(out, a, na, b, nb);
+  if (nb < convolutionFrom && na - nb <= nb / 4) return multiplyByKaratsuba(out, a, na, b, nb);
+  if (nb < convolutionFrom && na / 2 < nb) return multiplyColumns(out, a, na, b, nb);
   if (nb > longestConvolution || na / 2 >= nb) return multiplyPieces(out, a, na, b, nb);
   convolveWords(out, a, na, b, nb);
 }
@@ -68,8 +139,14 @@ void multiplyWords(Word* out, const Word* a, int na, const Word* b, int nb) {
 void m_apm_multiply(M_APM_struct* result, const M_APM_struct* a, const M_APM_struct* b) {
   using namespace zarvik::mapm;
   if (a->sign == 0 || b->sign == 0) return setZero(result);
-  if (static_cast<long long>(a->dataLength) + b->dataLength > M_APM_MAX_DIGITS)
+  const long long exponent = static_cast<long long>(a->exponent) + b->exponent;
+  const int sign = a->sign * b->sign;
+  if (a->dataLength <= wordDigits && b->dataLength <= wordDigits) {
+    return multiplyOneWord(result, wordOf(loadLow(a->data)), wordOf(loadLow(b->data)), exponent, sign);
+  }
+  if (static_cast<long long>(a->dataLength) + b->dataLength > M_APM_MAX_DIGITS) {
     return refuse(result, "'m_apm_multiply', Result too long");
+  }
   const int na = wordCount(a);
   const int nb = wordCount(b);
   Words words(2 * (na + nb));
@@ -78,5 +155,5 @@ void m_apm_multiply(M_APM_struct* result, const M_APM_struct* a, const M_APM_str
   toWords(words, a, na);
   toWords(second, b, nb);
   multiplyWords(product, words, na, second, nb);
-  fromWords(result, product, na + nb, static_cast<long long>(a->exponent) + b->exponent, a->sign * b->sign);
+  fromWords(result, product, na + nb, exponent, sign);
 }

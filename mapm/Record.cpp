@@ -7,14 +7,15 @@
 
 namespace {
 
-constexpr int smallBytes = 80;
+constexpr int firstBytes = 80;   ///< of a new record
+constexpr int blockBytes = 208;  ///< to which it grows in place
 constexpr int spareBytes = 4;
 constexpr int poolLimit = 256;
 
-/// A record and the room for its first 160 digits in one allocation. A longer number has a block of its own.
+/// A record and the room for its first digits in one allocation. A longer number has a block of its own.
 struct Block {
   M_APM_struct record;
-  alignas(16) unsigned char digits[smallBytes + spareBytes];
+  alignas(16) unsigned char digits[blockBytes + spareBytes];
   Block* next;
 };
 
@@ -58,7 +59,7 @@ void M_apm_log_error_msg(bool fatal, const char* message) {
 M_APM_struct* m_apm_init() {
   Block* const block = pooledBlock();
   std::memset(block->digits, 0, 16);
-  block->record = {block->digits, M_APM_IDENT, 1, smallBytes, 1, 0, 0};
+  block->record = {block->digits, M_APM_IDENT, 1, firstBytes, 1, 0, 0};
   return &block->record;
 }
 
@@ -97,6 +98,10 @@ void* allocate(std::size_t bytes, const char* message) {
 }
 
 unsigned char* makeLargeRoom(M_APM_struct* number, int bytes) {
+  if (isSmall(number) && bytes <= blockBytes) {
+    number->mallocLength = blockBytes;
+    return number->data;
+  }
   if (!isSmall(number)) ::operator delete(number->data);
   const std::size_t all = static_cast<std::size_t>(bytes) + spareBytes;
   number->data = static_cast<unsigned char*>(allocate(all, "'m_apm_make_room', Out of memory"));
@@ -131,14 +136,6 @@ int leadingZeroBytes(const unsigned char* data, int bytes) {
   return zeros;
 }
 
-/// Bytes left without the zeros at the end; there is a byte that is not zero.
-int withoutTrailingZeros(const unsigned char* data, int bytes) {
-  int words = paddedBytes(bytes) / 8;
-  std::uint64_t last;
-  while ((last = loadLow(data + 8 * (words - 1))) == 0) --words;
-  return 8 * words - std::countl_zero(last) / 8;
-}
-
 /// Takes the zeros off the front and gives their count, with `bytes` what is left; there is a digit that is not zero.
 int dropLeadingZeros(unsigned char* data, int& bytes) {
   const int zeros = leadingZeroBytes(data, bytes);
@@ -153,19 +150,13 @@ int dropLeadingZeros(unsigned char* data, int& bytes) {
 }
 }  // namespace
 
-void normalise(M_APM_struct* number, int bytes, long long exponent, int sign) {
+void settleLeadingZeros(M_APM_struct* number, int bytes, long long exponent, int sign) {
   unsigned char* const data = number->data;
-  if (data[0] < 10) {
-    if (leadingZeroBytes(data, bytes) == bytes) return setZero(number);
-    exponent -= dropLeadingZeros(data, bytes);
-  }
-  if (exponent != static_cast<int>(exponent) || exponent == std::numeric_limits<int>::min()) {
-    return refuse(number, "'m_apm_normalize', Exponent out of range");
-  }
-  const int left = withoutTrailingZeros(data, bytes);
-  number->dataLength = 2 * left - (data[left - 1] % 10 == 0 ? 1 : 0);
-  number->exponent = static_cast<int>(exponent);
-  number->sign = sign;
+  if (leadingZeroBytes(data, bytes) == bytes) return setZero(number);
+  exponent -= dropLeadingZeros(data, bytes);
+  normalise(number, bytes, exponent, sign);
 }
+
+void refuseExponent(M_APM_struct* number) { refuse(number, "'m_apm_normalize', Exponent out of range"); }
 
 }  // namespace zarvik::mapm

@@ -68,9 +68,25 @@ inline void pad(unsigned char* data, int bytes) {
   std::memset(data + bytes, 0, static_cast<std::size_t>(paddedBytes(bytes) - bytes));
 }
 
+void settleLeadingZeros(M_APM_struct* number, int bytes, long long exponent, int sign);  // for `normalise`
+void refuseExponent(M_APM_struct* number);                                               // for `normalise`
+
 /// Makes the `bytes` base-100 digits in `number->data`, which are padded with zeros, a normal number of the value
 /// sign * 0.digits * 10^exponent.
-void normalise(M_APM_struct* number, int bytes, long long exponent, int sign);
+inline void normalise(M_APM_struct* number, int bytes, long long exponent, int sign) {
+  const unsigned char* const data = number->data;
+  if (data[0] < 10) return settleLeadingZeros(number, bytes, exponent, sign);
+  if (exponent != static_cast<int>(exponent) || exponent == std::numeric_limits<int>::min()) {
+    return refuseExponent(number);
+  }
+  const unsigned char* end = data + paddedBytes(bytes);
+  std::uint64_t last;
+  while ((last = loadLow(end - 8)) == 0) end -= 8;
+  end -= std::countl_zero(last) / 8;
+  number->dataLength = static_cast<int>(2 * (end - data)) - (end[-1] % 10 == 0 ? 1 : 0);
+  number->exponent = static_cast<int>(exponent);
+  number->sign = sign;
+}
 
 /// The first `keep` digits of `a`, half away from zero. `keep` may be anything: from the length on, a copy.
 void roundToDigits(M_APM_struct* result, long long keep, const M_APM_struct* a);
