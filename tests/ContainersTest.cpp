@@ -1,7 +1,4 @@
 // The four lists: VList, ObjectList, ArrayList and SmallStringMap.
-#include <memory>
-#include <random>
-
 #include "Allocations.h"
 #include "ArrayList.h"
 #include "BigDecimal.h"
@@ -84,41 +81,16 @@ TEST(VList, makesRoomForTenElements) {
   const Allocations allocations;
   for (int i = 0; i < 10; ++i) list.add(i);
   EXPECT_EQ(allocations.count(), 0);
-  list.clear();
-  for (int i = 0; i < 10; ++i) list.add(i);
-  EXPECT_EQ(allocations.count(), 0);
 }
 
 TEST(VList, comparesByTheFirstPairThatDiffers) {
-  struct Row {
-    IntList a;
-    IntList b;
-    int order;
-  };
-  const Row rows[] = {
-      {listOf<IntList>(), listOf<IntList>(), 0},
-      {listOf<IntList>(1, 2), listOf<IntList>(1), 1},
-      {listOf<IntList>(1), listOf<IntList>(1, 2, 3), -2},
-      {listOf<IntList>(1, 9), listOf<IntList>(2), -1},
-      {listOf<IntList>(3, 0), listOf<IntList>(2, 5, 6), 1},
-  };
-  for (const Row& row : rows) {
-    EXPECT_EQ(row.a.compareTo(row.b), row.order) << row.a.toString().c_str();
-    EXPECT_EQ(row.a.equals(row.b), row.order == 0);
-  }
-  const StringList signedBytes = listOf<StringList>("\x80");
-  EXPECT_EQ(signedBytes.compareTo(listOf<StringList>("a")), -1);
-}
-
-TEST(VList, findsElements) {
-  const IntList list = listOf<IntList>(1, 2, 3, 2);
-  EXPECT_EQ(list.indexOf(2), 1);
-  EXPECT_EQ(list.lastIndexOf(2), 3);
-  EXPECT_EQ(list.indexOf(5), -1);
-  EXPECT_EQ(list.lastIndexOf(5), -1);
-  EXPECT_TRUE(list.contains(3));
-  EXPECT_TRUE(list.intersects(listOf<IntList>(9, 3)));
-  EXPECT_FALSE(list.intersects(listOf<IntList>(9)));
+  const IntList list = listOf<IntList>(1, 9);
+  EXPECT_EQ(list.compareTo(listOf<IntList>(1)), 1);
+  EXPECT_EQ(list.compareTo(listOf<IntList>(1, 9, 3, 4)), -2);
+  EXPECT_EQ(list.compareTo(listOf<IntList>(2)), -1);
+  EXPECT_EQ(list.compareTo(listOf<IntList>(1, 8, 7)), 1);
+  EXPECT_TRUE(IntList().equals(IntList()));
+  EXPECT_FALSE(list.equals(listOf<IntList>(1)));
 }
 
 TEST(VList, insertsAndRemoves) {
@@ -133,6 +105,9 @@ TEST(VList, insertsAndRemoves) {
   EXPECT_EQ(list.toString(), "[8, 3, 6, 7, 1]");
   list.erase(list.getiteratorAt(1));
   EXPECT_EQ(std::vector<int>(list.begin(), list.end()), (std::vector<int>{8, 6, 7, 1}));
+  EXPECT_EQ(list.indexOf(5), -1);
+  EXPECT_EQ(list.lastIndexOf(8), 0);
+  EXPECT_TRUE(list.intersects(listOf<IntList>(9, 1)) && !list.intersects(listOf<IntList>(9)));
   BoolList flags = listOf<BoolList>(true, false, true);
   EXPECT_FALSE(flags.removeElementAt(0));
   EXPECT_TRUE(flags.removeElementAt(1));
@@ -140,12 +115,9 @@ TEST(VList, insertsAndRemoves) {
 
 TEST(VList, checksPositions) {
   IntList list = listOf<IntList>(1, 2);
-  const IntList& fixed = list;
   for (const int index : {-1, 2}) {
     EXPECT_EQ(rangeErrorOf([&] { list.get(index); }), "invalid vector<T> subscript");
-    EXPECT_EQ(rangeErrorOf([&] { list.getValue(index); }), "invalid vector<T> subscript");
     EXPECT_EQ(rangeErrorOf([&] { list[index] = 0; }), "invalid vector<T> subscript");
-    EXPECT_EQ(rangeErrorOf([&] { fixed[index]; }), "invalid vector<T> subscript");
     EXPECT_EQ(rangeErrorOf([&] { list.set(index, 0); }), "invalid vector<T> subscript");
     EXPECT_EQ(rangeErrorOf([&] { list.removeElementAt(index); }), "invalid vector<T> subscript");
   }
@@ -169,8 +141,6 @@ TEST(ObjectList, boxesWhatIsAdded) {
   EXPECT_EQ(ObjectList("a", 1).toString(), "a,1");
   EXPECT_EQ(ObjectList(1, "a").toString(), "1,a");
   EXPECT_EQ(ObjectList("a", "b").toString(), "a,b");
-  EXPECT_EQ(ObjectList(zkstring("a"), zkstring("b")).toString(), "a,b");
-  EXPECT_EQ(ObjectList(Binary("b", 1)).toString(), "b");
 }
 
 TEST(ObjectList, sharesItsElementsWithAllCopies) {
@@ -224,13 +194,6 @@ TEST(ArrayList, growsInStepsOfTen) {
   EXPECT_EQ(list.at(98), 98);
 }
 
-TEST(ArrayList, appendsAnElementOfItsOwn) {
-  ArrayList<zkstring> list;
-  list.push_back("a text");
-  while (list.size() < 25) list.push_back(list.at(0));
-  EXPECT_EQ(list.top(), "a text");
-}
-
 TEST(ArrayList, aliasesWhenAssignedAndLosesNothing) {
   ArrayList<zkstring> first;
   first.push_back("a");
@@ -240,7 +203,7 @@ TEST(ArrayList, aliasesWhenAssignedAndLosesNothing) {
   second = *&second;  // itself
   second.at(0) = "b";
   EXPECT_EQ(first.at(0), "b");
-  while (second.size() < 10) second.push_back("c");  // the tenth moves to an array of its own
+  while (second.size() < 10) second.push_back(second.at(0));  // the tenth moves to an array of its own
   second.at(0) = "d";
   EXPECT_EQ(first.at(0), "b");
   first = ArrayList<zkstring>();
