@@ -8,8 +8,10 @@
 #include <ostream>
 #include <string>
 
+#include "ByteArrayInputSource.h"
 #include "Exceptions.h"
 #include "KelvaraTypes.h"
+#include "StringInputSource.h"
 #include "ThrowFrom.h"
 
 namespace zarvik {
@@ -172,6 +174,12 @@ zkstring Parsing::runtimeObjectToString(Object* object, const zkstring& type) {
   if (type == KelvaraTypes::DATE_ONLY_TYPE) return object->getDate().toString(datePrinted);
   if (type == KelvaraTypes::BINARY_TYPE) return object->getBinary().toHexString();
   return object->toString();
+}
+
+Object* Parsing::toRawMessageTypeObject(Object* object) {
+  if (const auto* const bytes = dynamic_cast<BinaryObject*>(object)) return new ByteArrayInputSource(bytes->getValue());
+  if (const auto* const text = dynamic_cast<StringObject*>(object)) return new StringInputSource(text->getValue());
+  return object;
 }
 
 zkstring Parsing::readUTF(std::istream& in) {

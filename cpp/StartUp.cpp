@@ -1,7 +1,9 @@
 #include "StartUp.h"
 
+#include "CartridgeMessageIdentifier.h"
+
 namespace zarvik {
 
-void registerLibraryClasses() {}
+void registerLibraryClasses() { registerClassCartridgeMessageIdentifier(); }
 
 }  // namespace zarvik

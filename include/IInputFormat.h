@@ -4,6 +4,7 @@
 
 namespace zarvik {
 
+class DataObject;
 class InputSource;
 class TransformContext;
 
@@ -12,6 +13,8 @@ class TransformContext;
 /// A format keeps state from one message to the next, so one instance serves one thread at a time.
 class IInputFormat : public IService {
  public:
+  /// The parsed object, with count 0, which belongs to the caller; the internal message does not see it.
+  virtual DataObject* handleInput(InputSource& source, TransformContext& context) = 0;
   virtual void processInput(InputSource& source, TransformContext& context) = 0;
 };
 

@@ -12,6 +12,9 @@ class MessageHeader {
   virtual zkstring getMessageVersion() = 0;
   virtual zkstring getHeaderField(const zkstring& name) = 0;
   virtual ~MessageHeader() noexcept(false) = default;
+
+  /// "MessageFormat = <format>, Message Version = <version>, Message Type = <type>"; the first label has no blank.
+  zkstring stringform();
 };
 
 }  // namespace zarvik

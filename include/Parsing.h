@@ -98,6 +98,8 @@ class Parsing {
   static zkstring runtimeObjectToString(Object* object, const zkstring& type);
 
   static Object* toBinaryTypeObject(Object* object) { return object; }  ///< odd on purpose: whatever it is given
+  /// Of a BinaryObject or StringObject a new raw message, with count 0, that shares its value; all else as it is.
+  static Object* toRawMessageTypeObject(Object* object);
 
   /// Not inverses of each other, on purpose. Reads a length of two signed bytes, the first times 256, kept to 16 bits,
   /// and that many bytes, or those that the stream still has.

@@ -84,6 +84,7 @@ class Identifier : public MessageIdentifier {
 class Format : public IInputFormat {
  public:
   Format(const char* name, int number) : name(name), number(number) {}
+  DataObject* handleInput(InputSource& /*source*/, TransformContext& /*context*/) override { return nullptr; }
   void processInput(InputSource& /*source*/, TransformContext& context) override {
     log += name + std::to_string(number) + " ";
     const zkstring raise = context.getProperty("raise");

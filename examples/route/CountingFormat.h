@@ -11,6 +11,10 @@ class CountingFormat : public zarvik::IInputFormat {
  public:
   static const zarvik::zkstringliteral FIELDS_PROPERTY;
 
+  /// Null: this format makes no objects, and the router asks for none.
+  zarvik::DataObject* handleInput(zarvik::InputSource& /*source*/, zarvik::TransformContext& /*context*/) override {
+    return nullptr;
+  }
   /// Throws zarvik::FieldParsingException for a garbled field.
   void processInput(zarvik::InputSource& source, zarvik::TransformContext& context) override;
 };

@@ -1,0 +1,158 @@
+#include "AbstractRawMessage.h"
+
+#include "ByteArrayInputSource.h"
+#include "PropertyMapImpl.h"
+#include "StringInputSource.h"
+#include "zkstringbuffer.h"
+
+namespace zarvik {
+
+constinit const zkstringliteral IRawMessage::CORRELATION_ID_PROPERTY("correlationId");
+constinit const zkstringliteral IRawMessage::REPLY_TO_PROPERTY("replyTo");
+constinit const zkstringliteral IRawMessage::CORRELATION_GROUP_SIZE_PROPERTY("");
+constinit const zkstringliteral IRawMessage::CORRELATION_SEQUENCE_PROPERTY("");
+
+Binary InputSource::getAsBinary() {
+  int length = 0;
+  const char* const bytes = getAsBytes(length);
+  zkstring copy(bytes, static_cast<unsigned int>(length));
+  copy.c_str();  // writes the NUL
+  return Binary(std::move(copy));
+}
+
+template <>
+zkstring RawMessageList::toString() const {
+  zkstringbuffer text("[");
+  for (int i = 0; i < size(); ++i) {
+    if (i > 0) text.append(", ");
+    if (const RawMessage& message = get(i); !message.isNull()) text.append(message->getAsString());
+  }
+  text.append(']');
+  return text;
+}
+
+AbstractRawMessage::AbstractRawMessage(const AbstractRawMessage& other)
+    : Object(),
+      PropertyMapForwarder(),
+      attachments(other.attachments),
+      encoding(other.encoding),
+      name(other.name),
+      properties(other.properties) {}
+
+AbstractRawMessage::~AbstractRawMessage() = default;
+
+float AbstractRawMessage::getFloatProperty(const zkstring& propertyName, float defaultValue) {
+  return readMap().getFloatProperty(propertyName, defaultValue);
+}
+
+void AbstractRawMessage::setFloatProperty(const zkstring& propertyName, float value) {
+  writeMap().setFloatProperty(propertyName, value);
+}
+
+StringList AbstractRawMessage::getPropertyNames(PropertyNameFilter& filter) {
+  return readMap().getPropertyNames(filter);
+}
+
+zkstring AbstractRawMessage::getAsString(const zkstring& /*encodingName*/) {
+  int length = 0;
+  const char* const bytes = getAsBytes(length);
+  return zkstring(bytes, static_cast<unsigned int>(length));
+}
+
+void AbstractRawMessage::addAttachment(const zkstring& attachmentName, RawMessage message) {
+  getAttachmentMap()[attachmentName] = std::move(message);
+}
+
+void AbstractRawMessage::removeAttachment(const zkstring& attachmentName) {
+  if (!attachments.isNull()) attachments->erase(attachmentName);
+}
+
+RawMessage AbstractRawMessage::getAttachment(const zkstring& attachmentName) {
+  return getAttachmentMap()[attachmentName];
+}
+
+bool AbstractRawMessage::hasAttachment(const zkstring& attachmentName) {
+  return !attachments.isNull() && attachments->find(attachmentName) != attachments->end();
+}
+
+StringList AbstractRawMessage::getAttachmentNames() {
+  StringList names;
+  if (!attachments.isNull()) {
+    for (const auto& attachment : *attachments) names.add(attachment.first);
+  }
+  return names;
+}
+
+RawMessageList AbstractRawMessage::getAttachments() {
+  RawMessageList messages;
+  if (!attachments.isNull()) {
+    for (const auto& attachment : *attachments) messages.add(attachment.second);
+  }
+  return messages;
+}
+
+AbstractRawMessage::AttachmentMap& AbstractRawMessage::getAttachmentMap() {
+  if (attachments.isNull()) attachments = new Attachments;
+  return *attachments;
+}
+
+void AbstractRawMessage::removeAllAttachments() {
+  if (!attachments.isNull()) attachments->clear();
+}
+
+zkstring AbstractRawMessage::toString() const {
+  try {
+    return const_cast<AbstractRawMessage*>(this)->dump();  // the getters of the interface are not const
+  } catch (...) {
+    return zkstringliteral("ToString error");
+  }
+}
+
+zkstring AbstractRawMessage::dump() {
+  zkstringbuffer text;
+  for (const zkstring& propertyName : getPropertyNames()) {
+    text.append(propertyName).append(':').append(getProperty(propertyName)->toString()).append('\n');
+  }
+  text.append(getAsString());
+  if (attachments.isNull()) return text;
+  text.append('\n');
+  for (const auto& [attachmentName, message] : *attachments) {
+    text.append("-----=").append(attachmentName).append('\n');
+    if (!message.isNull()) text.append(message->toString());
+  }
+  return text;
+}
+
+IPropertyMap& AbstractRawMessage::readMap() {
+  static const SmartPtr<IPropertyMap> none(new PropertyMapImpl);  // stays empty, so all threads may share it
+  return properties.isNull() ? *none : *properties;
+}
+
+IPropertyMap& AbstractRawMessage::writeMap() {
+  if (properties.isNull()) properties = new PropertyMapImpl;
+  return *properties;
+}
+
+const char* StringInputSource::getAsBytes(int& length) {
+  length = static_cast<int>(text.length());
+  return text.data();
+}
+
+ByteArrayInputSource::ByteArrayInputSource(const char* block, int length, bool owned)
+    : bytes(block, static_cast<unsigned int>(length), owned), ownsBytes(owned) {}
+
+ByteArrayInputSource::ByteArrayInputSource(const ByteArrayInputSource& other)
+    : Object(),
+      AbstractRawMessage(other),
+      bytes(other.ownsBytes ? Binary(other.bytes.data(), other.bytes.length()) : other.bytes) {}
+
+ByteArrayInputSource::~ByteArrayInputSource() {
+  if (ownsBytes) delete[] bytes.data();
+}
+
+const char* ByteArrayInputSource::getAsBytes(int& length) {
+  length = static_cast<int>(bytes.length());
+  return bytes.data();
+}
+
+}  // namespace zarvik
