@@ -1,15 +1,16 @@
 #include "date/DateTime.h"
 
 #include <climits>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <ctime>
-#include <functional>
 #include <memory>
 #include <random>
 
 #include "Allocations.h"
 #include "Support.h"
+#include "date/TimeZone.h"
 
 namespace zarvik {
 namespace {
@@ -153,35 +154,17 @@ TEST(DateTime, computesWithSpans) {
   }
 }
 
-/// Checks, in a process of its own, what depends on the time zone that the process started with.
-void inZone(const char* zone, const std::function<bool(std::time_t now)>& holds) {
-  GTEST_FLAG_SET(death_test_style, "threadsafe");
-  EXPECT_EXIT(
-      {
-        setenv("TZ", zone, 1);
-        tzset();
-        std::exit(holds(std::time(nullptr)) ? 0 : 1);
-      },
-      testing::ExitedWithCode(0), "")
-      << zone;
-}
-
 TEST(DateTime, timestampsCountFromTheEpochOfTheZone) {
-  struct Row {
-    const char* zone;
-    int minutes;
-  };
-  for (const Row& row : {Row{"UTC0", 0}, {"IST-5:30", 330}, {"EST5", -300}}) {
-    inZone(row.zone, [&](std::time_t) {
-      std::time_t instant = 1'700'000'000 + row.minutes * 60;
-      std::tm fields{};
-      gmtime_r(&instant, &fields);
-      const DateTime local(fields.tm_year + 1900, fields.tm_mon + 1, fields.tm_mday, fields.tm_hour, fields.tm_min,
-                           fields.tm_sec, 5);
-      return DateTime::localOffset() % 1440 == row.minutes && local.toTimestamp() == 1'700'000'000'005 &&
+  const auto isOffset = [](const char* zone, int minutes) {
+    inZone(zone, [=] {
+      const DateTime local = DateTime(2023, 11, 14, 16, 13, 20, 5) + TimeSpan(0, 0, minutes + 360, 0, 0);
+      return DateTime::localOffset() == minutes && local.toTimestamp() == 1'700'000'000'005 &&
              DateTime::fromTimestamp(1'700'000'000'005) == local;
     });
-  }
+  };
+  isOffset("UTC0", 0);
+  isOffset("IST-5:30", 330);
+  isOffset("EST5", -300);
 }
 
 TEST(DateTime, timestampsBeforeTheEpochAreMagnitudes) {
@@ -194,11 +177,11 @@ TEST(DateTime, timestampsBeforeTheEpochAreMagnitudes) {
 }
 
 TEST(DateTime, nowIsTheLocalClock) {
-  inZone("IST-5:30", [](std::time_t before) {
-    const __int64 now = DateTime::now().toTimestamp() / 1000;
-    const Date today = DateTime::today().getDatePortion();
-    return now >= before && now <= before + 60 && today.getTimeSpan() <= DateTime::now().getTimeSpan() &&
-           DateTime::now().getTimeSpan() < today.getTimeSpan() + TimeSpan(1, 0, 0, 5, 0);
+  inZone("IST-5:30", [before = std::time(nullptr)] {
+    const TimeSpan today = DateTime::today().getTimeSpan();
+    const DateTime now = DateTime::now();
+    return now.toTimestamp() / 1000 - before < 60 && now.toTimestamp() / 1000 >= before && today <= now.getTimeSpan() &&
+           now.getTimeSpan() < today + TimeSpan(1, 0, 0, 5, 0);
   });
 }
 

@@ -1,10 +1,9 @@
 #include "formula/DateFunctions.h"
 
 #include <climits>
-#include <cstdlib>
-#include <ctime>
 
 #include "Support.h"
+#include "date/TimeZone.h"
 
 namespace zarvik {
 namespace {
@@ -85,18 +84,6 @@ TEST(DateFunctions, comparesAllFields) {
   const DateTime late = read("2001-01-01 11:00:00.000");
   EXPECT_TRUE(Functions::notEqual(early, late) && Functions::before(early, late) && Functions::greater(late, early));
   EXPECT_TRUE(Functions::greaterEqual(late, late) && Functions::lessEqual(late, late) && !(late >= late));
-}
-
-/// Whether `holds` does in a process that starts in the given time zone.
-void inZone(const char* zone, bool (*holds)()) {
-  GTEST_FLAG_SET(death_test_style, "threadsafe");
-  EXPECT_EXIT(
-      {
-        setenv("TZ", zone, 1);
-        tzset();
-        std::exit(holds() ? 0 : 1);
-      },
-      testing::ExitedWithCode(0), "");
 }
 
 TEST(DateFunctions, convertsBetweenZones) {
