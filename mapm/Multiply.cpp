@@ -61,6 +61,11 @@ void multiplyFixed(Word* out, const Word* a, const Word* b) {
 /// The columns of a * b, both of n words, without carries: 2n - 1 of them. By three products of halves (Karatsuba);
 /// the sums of halves need no carries either, since words have room above the base. `scratch` has 4n places.
 void karatsuba(DoubleWord* out, const Word* a, const Word* b, int n, DoubleWord* scratch) {
+  if (n == 16) {
+#pragma GCC unroll 32
+    for (int k = 0; k < 31; ++k) out[k] = fixedColumn<16>(a, b, k);
+    return;
+  }
   if (n < karatsubaFrom) {
     for (int k = 0; k < 2 * n - 1; ++k) {
       const int first = std::max(0, k - n + 1);

@@ -14,6 +14,13 @@ namespace {
 
 __m128i load(const unsigned char* bytes) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes)); }
 
+/// Byte by byte.
+__m128i timesTen(__m128i digits) {
+  const __m128i twice = _mm_add_epi8(digits, digits);
+  const __m128i four = _mm_add_epi8(twice, twice);
+  return _mm_add_epi8(_mm_add_epi8(four, four), twice);
+}
+
 /// Lanes of all bits where a carry goes into a byte: from the byte behind it, or from the block behind this one.
 __m128i carriesIn(__m128i out, __m128i behind) {
   return _mm_or_si128(_mm_srli_si128(out, 1), _mm_slli_si128(behind, 15));
@@ -132,16 +139,31 @@ bool combine(unsigned char* out, Digits a, Digits b) {
 }
 
 /// Moves `bytes` bytes of digits one digit to the back, behind `digit`, from `in` to `out`, which may be the same.
-/// `out` has room for 8 bytes more; what follows the digits there is zero up to byte bytes + 1 at least.
+/// `out` has room for 16 bytes more; what follows the digits there is zero up to byte bytes + 1 at least.
 void insertDigit(unsigned char* out, const unsigned char* in, int bytes, unsigned int digit) {
-  std::uint64_t before = digit;
   int i = 0;
+#ifdef __SSE2__
+  __m128i behind = _mm_set_epi32(static_cast<int>(digit << 24), 0, 0, 0);
+  for (; i < bytes; i += 16) {
+    const __m128i pair = load(in + i);
+    const __m128i even = _mm_mullo_epi16(_mm_and_si128(pair, _mm_set1_epi16(0xFF)), _mm_set1_epi16(103));
+    const __m128i odd = _mm_mullo_epi16(_mm_srli_epi16(pair, 8), _mm_set1_epi16(103));
+    const __m128i tens = _mm_or_si128(_mm_srli_epi16(even, 10), _mm_slli_epi16(_mm_srli_epi16(odd, 10), 8));
+    const __m128i units = _mm_sub_epi8(pair, timesTen(tens));
+    const __m128i moved = _mm_or_si128(_mm_slli_si128(units, 1), _mm_srli_si128(behind, 15));
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(out + i), _mm_add_epi8(timesTen(moved), tens));
+    behind = units;
+  }
+  const auto before = static_cast<unsigned int>(_mm_cvtsi128_si32(_mm_srli_si128(behind, 15)));
+#else
+  std::uint64_t before = digit;
   for (; i < bytes; i += 8) {
     std::uint64_t tens;
     const std::uint64_t units = splitTens(loadLow(in + i), tens);
     storeLow(out + i, 10 * (units << 8 | before) + tens);
     before = units >> 56;
   }
+#endif
   storeLow(out + i, 10 * before);
 }
 
@@ -150,7 +172,7 @@ Digits shifted(M_APM_struct* scratch, const M_APM_struct* a, int shift) {
   const int bytes = byteCount(a);
   const int zeros = shift / 2;
   const int all = zeros + bytes + shift % 2;
-  unsigned char* const data = makeRoom(scratch, all + 16);
+  unsigned char* const data = makeRoom(scratch, all + 32);
   std::memset(data, 0, static_cast<std::size_t>(zeros));
   if (shift % 2 != 0) {
     insertDigit(data + zeros, a->data, bytes, 0);
@@ -164,7 +186,7 @@ Digits shifted(M_APM_struct* scratch, const M_APM_struct* a, int shift) {
 /// `high` has the greater exponent, or an equal one, and for differences the greater magnitude.
 void combineMagnitudes(M_APM_struct* result, Digits high, Digits low, bool difference, int exponent, int sign) {
   const int bytes = std::max(high.bytes, low.bytes);
-  unsigned char* const data = makeRoom(result, bytes + 16);
+  unsigned char* const data = makeRoom(result, bytes + 24);
   if (difference) {
     combine<Subtracter>(data, high, low);
   } else if (combine<Adder>(data, high, low)) {
