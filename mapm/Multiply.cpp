@@ -21,10 +21,20 @@ DoubleWord column(const Word* a, const Word* b, int n) {
   return sum;
 }
 
+/// One column becomes a word; the carry to the next one is returned. The slow division does not wait for the carry.
+Word carryOn(DoubleWord column, Word carry, Word& out) {
+  Word rest;
+  const Word quotient = divideByBase(column, rest);
+  rest += carry;
+  const Word more = rest / base;
+  out = rest - more * base;
+  return quotient + more;
+}
+
 /// Carries the columns on: afterwards each is a word.
 void carryColumns(Word* out, const DoubleWord* columns, int n) {
   Word carry = 0;
-  for (int k = 0; k < n - 1; ++k) carry = divideByBase(carry + columns[k], out[k]);
+  for (int k = 0; k < n - 1; ++k) carry = carryOn(columns[k], carry, out[k]);
   out[n - 1] = carry;
 }
 
@@ -34,7 +44,7 @@ void multiplyColumns(Word* out, const Word* a, int na, const Word* b, int nb) {
   for (int k = 0; k < na + nb - 1; ++k) {
     const int first = std::max(0, k - nb + 1);
     const int last = std::min(k, na - 1);
-    carry = divideByBase(carry + column(a + first, b + k - first, last - first + 1), out[k]);
+    carry = carryOn(column(a + first, b + k - first, last - first + 1), carry, out[k]);
   }
   out[na + nb - 1] = carry;
 }
@@ -54,7 +64,7 @@ template <int n>
 void multiplyFixed(Word* out, const Word* a, const Word* b) {
   Word carry = 0;
 #pragma GCC unroll 16
-  for (int k = 0; k < 2 * n - 1; ++k) carry = divideByBase(carry + fixedColumn<n>(a, b, k), out[k]);
+  for (int k = 0; k < 2 * n - 1; ++k) carry = carryOn(fixedColumn<n>(a, b, k), carry, out[k]);
   out[2 * n - 1] = carry;
 }
 
