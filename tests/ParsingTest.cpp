@@ -86,11 +86,7 @@ TEST(Parsing, tellsWhatItCannotRead) {
   }
   EXPECT_EQ(errorOf<TransformException>([&] { Parsing::parseFloat(zkstring("1\0", 2)); }),
             std::string("Cannot convert '1\0' to double", 29));
-  EXPECT_EQ(errorOf<TransformException>([] { Parsing::parseInt("1.5"); }), "Cannot convert '1.5' to int");
-  EXPECT_EQ(errorOf<TransformException>([] { Parsing::parseLong("12 "); }), "Cannot convert '12 ' to long");
-  EXPECT_EQ(errorOf<FieldParsingException>([] { Parsing::parseBool("yes"); }), "Cannot convert yes to boolean");
   EXPECT_EQ(errorOf<FieldParsingException>([] { Parsing::parseBool("true "); }), "Cannot convert true  to boolean");
-  EXPECT_EQ(errorOf<FieldParsingException>([] { Parsing::parseChar("ab"); }), "Cannot convert ab to char");
   EXPECT_EQ(errorOf<FieldParsingException>([] { Parsing::parseChar(""); }), "Cannot convert  to char");
   EXPECT_EQ(errorOf<TransformException>([] { Parsing::toRuntimeObject("ab", "Character"); }),
             "Cannot convert 'ab' to Character");
@@ -100,10 +96,6 @@ TEST(Parsing, tellsWhatItCannotRead) {
 }
 
 TEST(Parsing, readsPlainValues) {
-  EXPECT_EQ(Parsing::parseInt("-12"), -12);
-  EXPECT_EQ(Parsing::parseLong(""), 0);
-  EXPECT_EQ(Parsing::parseFloat("0.1"), 0.1F);
-  EXPECT_TRUE(Parsing::parseBool("TRUE"));
   EXPECT_FALSE(Parsing::parseBool(zkstring("False\0x", 7)));
   EXPECT_EQ(Parsing::parseChar("x"), 'x');
   const zkstring bytes("a\0b", 3);
@@ -121,12 +113,7 @@ TEST(Parsing, unboxes) {
   EXPECT_EQ(errorOf<TransformNullValueException>([&] { Parsing::longValue(noNumber); }), "Null value");
   EXPECT_EQ(errorOf<TransformNullValueException>([] { Parsing::binaryValue(nullptr); }), "Null value");
   EXPECT_EQ(Parsing::longValueWithNull(noNumber), 0);
-  EXPECT_EQ(Parsing::charValueWithNull(nullptr), '\0');
   EXPECT_EQ(Parsing::stringValueWithNull(nullptr), Parsing::EMPTY);
-  EXPECT_EQ(Parsing::dateValueWithNull(nullptr), DateTime());
-  EXPECT_EQ(Parsing::bigDecimalValueWithNull(nullptr), BigDecimal());
-  const StringObject name("name");
-  EXPECT_EQ(Parsing::stringValue(&name), "name");
 }
 
 TEST(Parsing, goesFromStoredTextToBoxAndBack) {
@@ -173,28 +160,20 @@ TEST(Parsing, formatsDatesOfAnyLength) {
   zkstring out("yyyyMMdd");
   Parsing::formatDate(date, out, out);
   EXPECT_EQ(out, "20241231");
-  for (const unsigned int n : {23U, 24U, 255U, 5000U}) {
-    Parsing::formatDate(date, zkstring(n, '-'), out);
-    EXPECT_EQ(out, zkstring(n, '-'));
-  }
+  Parsing::formatDate(date, zkstring(5000, '-'), out);
+  EXPECT_EQ(out, zkstring(5000, '-'));
 }
 
 TEST(Parsing, readsAndWritesUtfOneWayEach) {
-  const auto readBack = [](const std::string& bytes) {
-    std::istringstream in(bytes);
-    return Parsing::readUTF(in);
-  };
-  const auto written = [](const zkstring& value) {
-    std::ostringstream out;
-    Parsing::writeUTF(out, value);
-    return out.str();
-  };
-  EXPECT_EQ(readBack(std::string("\0\3abcd", 6)), "abc");
-  EXPECT_EQ(readBack(std::string("\1\0", 2) + std::string(300, 'x')), zkstring(256, 'x'));  // beyond 100
-  EXPECT_EQ(readBack("\xff\xffxx"), "xx");  // -257 is 65279, more than there is
-  EXPECT_EQ(readBack("\1"), "");
-  EXPECT_EQ(written("abc"), "768abc");
-  EXPECT_EQ(written(zkstring(0x0201, 'x')), "258" + std::string(258, 'x'));
+  std::istringstream in(std::string("\0\3abc\1\0", 7) + std::string(256, 'x') + "\xff\xffyy");
+  EXPECT_EQ(Parsing::readUTF(in), "abc");
+  EXPECT_EQ(Parsing::readUTF(in), zkstring(256, 'x'));
+  EXPECT_EQ(Parsing::readUTF(in), "yy");  // -257 is 65279, more than there is
+  EXPECT_EQ(Parsing::readUTF(in), "");
+  std::ostringstream out;
+  Parsing::writeUTF(out, "abc");
+  Parsing::writeUTF(out, zkstring(0x0201, 'x'));
+  EXPECT_EQ(out.str(), "768abc258" + std::string(258, 'x'));
 }
 }  // namespace
 }  // namespace zarvik

@@ -14,9 +14,7 @@ constexpr __int64 lowestLong = std::numeric_limits<__int64>::min();
 TEST(NumberObject, convertsByTheLanguagesCasts) {
   EXPECT_EQ(DoubleObject(2.9).getInt(), 2);
   EXPECT_EQ(DoubleObject(-2.9).getInt(), -2);
-  EXPECT_EQ(FloatObject(-2.9F).getLong(), -2);
   EXPECT_EQ(LongObject((__int64{1} << 32) + 1).getInt(), 1);
-  EXPECT_EQ(IntObject(-1).longValue(), -1);
   IntObject number;
   number.setLong((__int64{1} << 32) + 1);
   EXPECT_EQ(number.getValue(), 1);
@@ -93,9 +91,7 @@ TEST(WrapperObject, travelsAsAnObject) {
     EXPECT_EQ(one.box->getObjectType(), one.type);
     EXPECT_EQ(one.box->toString(), one.text);
     const SmartPtr<Object> copy(one.box->clone());
-    const Object& original = *one.box;
-    const Object& cloned = *copy;
-    EXPECT_EQ(typeid(cloned), typeid(original));
+    EXPECT_EQ(copy->getObjectType(), one.type);
     EXPECT_EQ(copy->toString(), one.text);
     const zkstring before = one.other->toString();
     one.other->setObject(one.box.get());
@@ -117,21 +113,9 @@ TEST(WrapperObject, offersItsOwnKindAlone) {
   EXPECT_EQ(errorOf<TransformException>([] { StringObject("1").setInt(1); }), "Cannot convert String to Integer");
   EXPECT_EQ(errorOf<TransformException>([] { IntObject(1).getString(); }), "Cannot convert Integer to String");
   EXPECT_EQ(errorOf<TransformException>([] { ISODateObject().getDate(); }), "Cannot convert ISODateTime to DateTime");
-
-  StringObject string;
-  string.setString("a");
-  CharObject character;
-  character.setCharacter('b');
-  BoolObject truth;
-  truth.setBoolean(true);
   ISODateObject moment;
   moment.setISODate(ISODateTime(DateTime(), -90));
-  BinaryObject bytes;
-  bytes.setBinary(Binary(2, 'x'));
-  EXPECT_EQ(string.getString() + character.charValue(), "ab");
-  EXPECT_TRUE(truth.getBoolean() && truth.boolValue());
   EXPECT_EQ(moment.getValue().getTimeZoneOffset(), -90);
-  EXPECT_EQ(bytes.getBinary(), bytes.getValue());
 }
 }  // namespace
 }  // namespace zarvik
