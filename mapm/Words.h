@@ -87,7 +87,18 @@ inline void storeWords(unsigned char* out, Word first, Word second) {
 
 /// The digits of `a` as a fraction: its value is words / base^count * 10^exponent.
 inline void toWords(Word* out, const M_APM_struct* a, int count) {
-  for (int i = 0; i < count; ++i) out[count - 1 - i] = wordOf(loadLow(a->data + 8 * i));
+  int i = 0;
+#ifdef __SSE2__
+  for (; i + 2 <= count; i += 2) {
+    const __m128i pairs = _mm_loadu_si128(reinterpret_cast<const __m128i*>(a->data + 8 * i));
+    const __m128i first = _mm_mullo_epi16(_mm_and_si128(pairs, _mm_set1_epi16(0xFF)), _mm_set1_epi16(100));
+    const __m128i fours = _mm_add_epi16(first, _mm_srli_epi16(pairs, 8));
+    const __m128i eights = _mm_madd_epi16(fours, _mm_set1_epi32(0x00012710));  // 10000 and 1
+    const __m128i words = _mm_add_epi64(_mm_mul_epu32(eights, _mm_set1_epi64x(100000000)), _mm_srli_epi64(eights, 32));
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(out + count - 2 - i), _mm_shuffle_epi32(words, 0x4E));
+  }
+#endif
+  for (; i < count; ++i) out[count - 1 - i] = wordOf(loadLow(a->data + 8 * i));
 }
 
 /// sign * words / base^count * 10^exponent
