@@ -36,18 +36,43 @@ zkstring Exception::toString() const { return Class(typeid(*this)).getName() + "
 
 Object* Exception::clone() const { return new Exception(*this); }
 
-TransformException::TransformException(const TransformException& other) : Object(), Exception(other.getMessage()) {
-  *this = other;
+TransformException::TransformException(const zkstring& message, Exception* detail) : Exception(message, detail) {
+  ExceptionDataObject::setMessage(message);
+  setErrorCode(zkstring::EMPTY);
+  setSeverity(getEXCEPTION_SEVERITY_FATAL());
+  setCascadable(true);
 }
 
+TransformException::TransformException(const ExceptionDataObject& data)
+    : Exception(zkstring::EMPTY), ExceptionDataObject(data) {
+  if (isNotNull(MESSAGE)) Exception::setMessage(getMessage());
+}
+
+TransformException::TransformException(std::vector<ExceptionDataObject*>& entries)
+    : TransformException(zkstringliteral("No message")) {
+  if (!entries.empty()) *this = TransformException(*entries.front());
+}
+
+// The messages are read below the virtual getter, which throws for a null field: an error must always be copyable.
+TransformException::TransformException(const TransformException& other)
+    : Object(), Exception(other.Exception::getMessage()), ExceptionDataObject(other) {}
+
 TransformException& TransformException::operator=(const TransformException& other) {
-  setMessage(other.getMessage());
-  errorCode = other.errorCode;
-  severity = other.severity;
-  fieldName = other.fieldName;
-  line = other.line;
-  column = other.column;
+  Exception::setMessage(other.Exception::getMessage());
+  ExceptionDataObject::operator=(other);
   return *this;
+}
+
+void TransformException::setMessage(const zkstring& text) {
+  Exception::setMessage(text);
+  ExceptionDataObject::setMessage(text);
+}
+
+void TransformException::getExceptionsAsList(std::vector<ExceptionDataObject*>& list) const {
+  Object* const copy = clone();
+  auto* const entry = dynamic_cast<TransformException*>(copy);
+  if (entry == nullptr) SmartPtr<Object>{copy};  // a class below cloned into something else, which goes
+  list.push_back(entry);
 }
 
 Object* TransformException::clone() const { return new TransformException(*this); }

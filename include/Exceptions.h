@@ -1,8 +1,9 @@
 #pragma once
 
 #include <memory>
+#include <vector>
 
-#include "Object.h"
+#include "ExceptionDataObject.h"
 
 namespace zarvik {
 
@@ -87,32 +88,34 @@ class LocalInitializationException : public ExceptionClass<LocalInitializationEx
   using ExceptionClass::ExceptionClass;
 };
 
-/// The general error of the processing chain, with a severity: "fatal", "error" or "warn". A copy has the message and
-/// the data; trace and detail stay behind.
-class TransformException : public Exception {
+/// The general error of the processing chain: an exception and a record at once.
+///
+/// A new one has the error code "", the severity "fatal" and is cascadable; type, field name and field ID are null. A
+/// copy has the message, the fields and the context properties, and starts with count 0; trace and detail stay behind,
+/// so whoever catches one finds neither.
+class TransformException : public Exception, public ExceptionDataObject {
  public:
-  TransformException(const zkstring& message) : Exception(message) {}
-  TransformException(const zkstring& message, Exception* detail) : Exception(message, detail) {}
+  TransformException(const zkstring& message) : TransformException(message, nullptr) {}
+  TransformException(const zkstring& message, Exception* detail);  ///< owns `detail` (may be null) from here on
+  TransformException(const ExceptionDataObject& data);
+  /// From the first entry, all others being ignored; "No message" without one.
+  TransformException(std::vector<ExceptionDataObject*>& entries);
   TransformException(const TransformException& other);
-  TransformException& operator=(const TransformException& other);
+  TransformException& operator=(const TransformException& other);  ///< keeps its own trace and detail
 
-  zkstring getErrorCode() const { return errorCode; }
-  void setErrorCode(const zkstring& value) { errorCode = value; }
-  zkstring getSeverity() const { return severity; }
-  void setSeverity(const zkstring& value) { severity = value; }
-  zkstring getFFieldName() const { return fieldName; }
-  void setFFieldName(const zkstring& value) { fieldName = value; }
-  void setLine(int number) { line = number; }
-  void setColumn(int number) { column = number; }
+  const zkstring& getMessage() const override { return ExceptionDataObject::getMessage(); }
+  void setMessage(const zkstring& text) override;
+
+  virtual void addAll(const TransformException& other) { *this = other; }  ///< adds nothing: it overwrites
+  virtual void addAll(const TransformException* other) { addAll(*other); }
+  /// Appends one entry, a clone of this exception, which is the caller's.
+  void getExceptionsAsList(std::vector<ExceptionDataObject*>& list) const;
+  void setInternalCode(const zkstring& code) { setContextProperty(getINTERNAL_CODE(), code); }
 
   Object* clone() const override;
-
- private:
-  zkstring errorCode;
-  zkstring severity = zkstringliteral("fatal");
-  zkstring fieldName;
-  int line = -1;
-  int column = -1;
+  zkstring toString() const override { return ExceptionDataObject::toString(); }  ///< the XML text
+  using ExceptionDataObject::toXMLString;
+  zkstring toXMLString(bool /*ignored*/) { return toXMLString(); }
 };
 
 /// A recognised message that no routing row accepts.

@@ -5,6 +5,7 @@
 #include <ostream>
 #include <string>
 
+#include "Class.h"
 #include "Exceptions.h"
 #include "zkstring.h"
 
@@ -14,6 +15,9 @@ namespace zarvik {
 inline void PrintTo(const zkstring& text, std::ostream* out) {
   *out << '"' << std::string(text.data(), text.length()) << '"';
 }
+
+/// The class that `object` is of, below all its bases.
+inline zkstring classOf(const Object& object) { return Class(typeid(object)); }
 
 /// The text of the exception of exactly class E that `action` throws; a remark if it throws none or another.
 template <class E, class Action>

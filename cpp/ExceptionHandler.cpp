@@ -1,0 +1,34 @@
+#include "ExceptionHandler.h"
+
+#include "Exceptions.h"
+#include "GuardedCast.h"
+#include "ThrowFrom.h"
+
+namespace zarvik {
+namespace {
+
+constexpr char here[] = "cpp/ExceptionHandler";
+
+/// A handler that no destructor ever takes down.
+union SharedHandler {
+  constexpr SharedHandler() : handler() {}
+  ~SharedHandler() {}
+  DraconianExceptionHandler handler;
+};
+constinit SharedHandler shared;
+}  // namespace
+
+constinit ExceptionHandler* ExceptionHandler::DRACONIAN_EXCEPTION_HANDLER = &shared.handler;
+
+void DraconianExceptionHandler::onException(ExceptionDataObject* exception) {
+  if (const auto* const error = dynamic_cast<const TransformException*>(exception)) {
+    throwFrom(here, TransformException(*error));
+  }
+  throwFrom(here, TransformException(*exception));
+}
+
+void CascadingExceptionHandler::onException(ExceptionDataObject* exception) {
+  exceptions.push_back(guardedCast<ExceptionDataObject>(exception->clone()));
+}
+
+}  // namespace zarvik
