@@ -22,6 +22,10 @@ void AbstractDataObjectSection::initialize(DataObject* owner, const zkstring& se
   maxOccurs = greatest;
 }
 
+void AbstractDataObjectSection::initialize(DataObject* owner, const SectionMetaInfo& described) {
+  initialize(owner, described.getName(), described.getMinOccurs(), described.getMaxOccurs());
+}
+
 DataObject* AbstractDataObjectSection::createElement() {
   return guardedCast<DataObjectBase>(parent)->createSectionElement(name, this);
 }

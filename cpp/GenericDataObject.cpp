@@ -118,8 +118,7 @@ DataObjectSection* GenericDataObject::addSection(int index) const {
   const SectionMetaInfo* const described = metaInfo->getSectionMetaInfo(index);
   if (described == nullptr) throwFrom(here, FieldNotFoundException(getFieldName(index) + " is not a section"));
   auto section = std::make_unique<DataObjectSectionImpl>();
-  section->initialize(const_cast<GenericDataObject*>(this), described->getName(), described->getMinOccurs(),
-                      described->getMaxOccurs());
+  section->initialize(const_cast<GenericDataObject*>(this), *described);
   field(index) = new SectionObject(*section);
   return sections.emplace_back(std::move(section)).get();
 }

@@ -4,6 +4,8 @@
 
 namespace zarvik {
 
+class SectionMetaInfo;
+
 /// What all sections have: an owner, a name and bounds.
 class AbstractDataObjectSection : public DataObjectSection {
  public:
@@ -15,6 +17,9 @@ class AbstractDataObjectSection : public DataObjectSection {
 
   /// `maxOccurs` -1 stands for any number. Records call it from their constructors, for each of their sections.
   void initialize(DataObject* owner, const zkstring& sectionName, int least, int greatest);
+
+  /// The same by the description of the section.
+  void initialize(DataObject* owner, const SectionMetaInfo& described);
 
   int getMinOccurs() const { return minOccurs; }
   int getMaxOccurs() const { return maxOccurs; }
