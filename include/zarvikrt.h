@@ -9,6 +9,7 @@
 #include "BigInteger.h"
 #include "Binary.h"
 #include "ByteArrayInputSource.h"
+#include "Boxing.h"
 #include "ByteBuffer.h"
 #include "CartridgeMessageIdentifier.h"
 #include "Class.h"
