@@ -29,7 +29,7 @@ BigDecimal numberOf(const std::string& text) {
 /// Writes all texts of the number; what is exact has to read back as the same number.
 void writeAll(const BigDecimal& value) {
   constexpr std::size_t most = 20'000;
-  std::vector<char> text(static_cast<std::size_t>(value.significant_digits()) + most + 100);
+  std::vector<char> text(static_cast<std::size_t>(value.significant_digits()) + 2 * most);  // groups take a third more
   value.MAPM::toString(text.data(), -1);
   if (BigDecimal(text.data()) != value) std::abort();
   if (value.fixPtLength(-1) < static_cast<long long>(most)) {
