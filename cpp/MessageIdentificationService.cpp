@@ -25,6 +25,8 @@ MessageIdentifier* newIdentifier(const zkstring& className) {
 
 MessageIdentificationService defaultService() {
   MessageIdentificationService service;
+  service.registerMessageIdentifer("FIXMessageIdentifier");
+  service.registerMessageIdentifer("SIACCanonicalMessageIdentifier");
   return service;
 }
 }  // namespace

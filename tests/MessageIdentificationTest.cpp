@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "CartridgeMessageIdentifier.h"
 #include "DataObject.h"
 #include "LookupContextFactory.h"
@@ -57,6 +59,59 @@ TEST(MessageIdentificationService, refusesClassesThatAreNoIdentifiers) {
             "Class not found Unknown");
   EXPECT_THROW(service.registerMessageIdentifer("NoIdentifier"), ClassCastException);
   EXPECT_EQ(NoIdentifier::alive, 0);
+}
+
+std::string soh(std::string text) {
+  std::replace(text.begin(), text.end(), '|', '\x01');
+  return text;
+}
+
+/// The fields that are not null of what the default service says of a message ('|' stands for SOH), or its error.
+std::string headerOf(const std::string& message) {
+  StringInputSource source(zkstring(soh(message).c_str()));
+  try {
+    const SmartPtr<DataObject> header(MessageIdentificationService::getDefault()->identifyMessage(source));
+    if (header.isNull()) return "unknown";
+    std::string fields;
+    for (int i = 0; i < header->getFieldCount(); ++i) {
+      const SmartPtr<Object> field(header->getField(i));
+      if (!field.isNull())
+        fields += std::string(header->getFieldName(i).c_str()) + "=" + field->toString().c_str() + "|";
+    }
+    return fields;
+  } catch (const FIXParsingException& error) {
+    return std::string("FIX: ") + error.getMessage().c_str();
+  } catch (const SIACCanonicalParsingException& error) {
+    return std::string("SIAC: ") + error.getMessage().c_str();
+  }
+}
+
+TEST(MessageIdentificationService, knowsFixAndSiacCanonicalByDefault) {
+  struct Row {
+    const char* message;
+    const char* header;
+  };
+  const Row rows[] = {
+      {"", "unknown"},
+      {"8=FI", "unknown"},
+      {"9=FIX", "unknown"},
+      {"10001=Canonica", "unknown"},
+      {"8=FIX", "MessageFormat=FIX|MessageVersion=|BeginString=FIX|"},
+      {"8=FIX.4.2|9=100|35=D|49=A|56=B|34=7|52=20010101-00:00:00|11=X|50=behind|",
+       "MessageFormat=FIX|MessageVersion=4.2|MessageType=D|BeginString=FIX.4.2|BodyLength=100|MsgType=D|"
+       "SenderCompID=A|TargetCompID=B|MsgSeqNum=7|"},
+      {"8=FIX.4.4|35=A|35=8|115=O|128=V|50=S|57=T",
+       "MessageFormat=FIX|MessageVersion=4.4|MessageType=8|BeginString=FIX.4.4|MsgType=8|OnBehalfOfCompID=O|"
+       "DeliverToCompID=V|SenderSubID=S|TargetSubID=T|"},
+      {"10001=Canonical 1.0|10002=120|25001=32|10003=NB|10004=A|10005=O|10006=D|10007=9|500=x|",
+       "MessageFormat=Canonical|MessageVersion=1.0|MessageType=NB|CFT_CanonicalVersion=Canonical 1.0|"
+       "CFT_BodyLength=120|CFT_SIACMsgType=NB|CFT_MsgSubType=A|CFT_MsgOrigin=O|CFT_MsgDest=D|CFT_MsgSeqNo=9|"},
+      {"8=FIX.4.2|x", "FIX: [col 12] 'Name or value' can't be empty. Unable to parse tag=value of form x"},
+  };
+  for (const Row& row : rows) EXPECT_EQ(headerOf(row.message), row.header) << row.message;
+  EXPECT_EQ(headerOf("8=FIX.4.2|9=abc|35=D|").substr(0, 14), "FIX: [col 16] ");
+  EXPECT_EQ(headerOf("10001=Canonical|10007=abc|").substr(0, 24), "SIAC: [col 26] [col 26] ");
+  EXPECT_EQ(headerOf("8=FIX.4.2|=D|").substr(0, 14), "FIX: [col 13] ");
 }
 
 TEST(CartridgeMessageIdentifier, needsTheNameOfAFormat) {
