@@ -1,0 +1,167 @@
+// Records against the least that their work can cost: a member read through one virtual call, a look-up in a map, and
+// the same XML text put together by hand.
+#include <charconv>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "AbstractDataObject.h"
+#include "Boxing.h"
+#include "DataObjectMetaInfo.h"
+#include "DataObjectSectionImpl.h"
+#include "support/Subject.h"
+
+using namespace zarvik;
+
+namespace {
+
+constexpr int valueCount = 20;  // ten texts, then ten numbers
+
+/// A record of twenty fields and a group of records of the same kind.
+class Wide : public AbstractDataObject {
+ public:
+  static constexpr int GROUP = valueCount;
+  static constexpr int FIELD_COUNT = valueCount + 1;
+
+  explicit Wide(DataObjectSection* parent = nullptr) : AbstractDataObject(metaInfo(), flags, parent) {
+    group.initialize(this, *metaInfo()->getSectionMetaInfo(GROUP));
+    setNotNull(GROUP);
+  }
+
+  static DataObjectMetaInfo* metaInfo() {
+    static const char* const names[] = {"ClOrdID",  "Account",   "Symbol",   "SecurityID", "Exchange",  "Currency",
+                                        "Trader",   "Desk",      "ClientID", "Text",       "OrderQty",  "MinQty",
+                                        "MaxFloor", "LeavesQty", "CumQty",   "SeqNum",     "ExecCount", "LegCount",
+                                        "PartyNo",  "Version",   "Elements"};
+    static const std::vector<const char*> types = [] {
+      std::vector<const char*> words(FIELD_COUNT, "String");
+      std::fill(words.begin() + valueCount / 2, words.end() - 1, "Integer");
+      words.back() = "Section";
+      return words;
+    }();
+    struct Info : DataObjectMetaInfo {
+      Info() : DataObjectMetaInfo(zkstringliteral("Wide"), names, types.data(), FIELD_COUNT) {
+        getSectionMetaInfo(GROUP)->init(this, 0, -1);
+      }
+    };
+    static Info info;
+    return &info;
+  }
+  DataObject* createSectionElement(const zkstring& /*name*/, DataObjectSection* section) const override {
+    return new Wide(section);
+  }
+
+  void fill(int fields) {
+    for (int i = 0; i < fields; ++i) setText(i);
+    for (int i = valueCount / 2; i < valueCount / 2 + fields; ++i) setNumber(i);
+  }
+  void setText(int i) {
+    texts[i] = zkstringliteral("a value of text");
+    setNotNull(i);
+  }
+  void setNumber(int i) {
+    numbers[i - valueCount / 2] = 12345 + i;
+    setNotNull(i);
+  }
+  void addElements(int count) {
+    for (int i = 0; i < count; ++i) {
+      auto* const element = new Wide(&group);
+      group.addElement(element);
+      element->fill(2);
+    }
+  }
+  virtual int readNumber() const { return numbers[0]; }
+
+  bool flags[FIELD_COUNT] = {};
+  zkstring texts[valueCount / 2];
+  int numbers[valueCount / 2] = {};
+  DataObjectSectionImpl group;
+
+ protected:
+  using AbstractDataObject::getField0;
+  Object* getField0(int index, Object* reuse) const override {
+    if (index < valueCount / 2) return box(texts[index], reuse);
+    if (index < valueCount) return box(numbers[index - valueCount / 2], reuse);
+    return box(group, reuse);
+  }
+};
+
+SmartPtr<Wide> wide(int elements) {
+  SmartPtr<Wide> record(new Wide);
+  record->fill(valueCount / 2);
+  record->addElements(elements);
+  return record;
+}
+
+/// The text of a record as one would write it who knows its class.
+void appendByHand(std::string& out, const Wide& record, std::size_t level) {
+  const auto open = [&](int i, std::size_t tabs) {
+    out.append(tabs, '\t').append("<").append(Wide::metaInfo()->getFieldName(i).data()).append(">");
+  };
+  const auto close = [&](int i) { out.append("</").append(Wide::metaInfo()->getFieldName(i).data()).append(">\n"); };
+  for (int i = 0; i < valueCount; ++i) {
+    if (!record.flags[i]) continue;
+    open(i, level);
+    if (i < valueCount / 2) {
+      out.append(record.texts[i].data(), record.texts[i].length());
+    } else {
+      char digits[12];
+      out.append(digits, std::to_chars(digits, digits + sizeof digits, record.numbers[i - valueCount / 2]).ptr);
+    }
+    close(i);
+  }
+  for (int i = 0; i < record.group.getElementCount(); ++i) {
+    open(Wide::GROUP, level);
+    out.append("\n");
+    appendByHand(out, static_cast<const Wide&>(*record.group.getElement(i)), level + 1);
+    out.append(level, '\t');
+    close(Wide::GROUP);
+  }
+}
+
+std::string byHand(const Wide& record) {
+  std::string out = "<DataObject>\n";
+  appendByHand(out, record, 1);
+  return out + "</DataObject>\n";
+}
+
+void reads() {
+  static const SmartPtr<Wide> record = wide(0);
+  static const DataObject* generic = record.get();
+  static const Wide* known = record.get();
+  static IntObject number;
+  static zkstringliteral name("LeavesQty");
+  static const std::map<std::string, int> map = [] {
+    std::map<std::string, int> indexes;
+    for (int i = 0; i < valueCount; ++i) indexes[Wide::metaInfo()->getFieldName(i).data()] = i;
+    return indexes;
+  }();
+  static const std::string standardName = "LeavesQty";
+  measure("field by index into a box", ours, [] {
+    benchmark::DoNotOptimize(generic);
+    return generic->getField(valueCount / 2, number);
+  });
+  measure("field by index into a box", "member through a virtual call", [] {
+    benchmark::DoNotOptimize(known);
+    return known->readNumber();
+  });
+  measure("field by name into a box", ours, [] {
+    benchmark::DoNotOptimize(generic);
+    return generic->getField(name, number);
+  });
+  measure("field by name into a box", "std::map::find", [] { return map.find(standardName)->second; });
+}
+
+void texts() {
+  static std::vector<SmartPtr<Wide>> records;  // alive as long as the benchmarks are
+  for (const int elements : {10, 1000, 100000}) {
+    const std::string subject = "XML text, 20 fields and a group of " + std::to_string(elements);
+    Wide* const record = records.emplace_back(wide(elements)).get();
+    if (byHand(*record) != record->toXMLString().c_str()) std::abort();
+    measure(subject, ours, [record] { return record->toXMLString(); });
+    measure(subject, "appends by hand", [record] { return byHand(*record); });
+  }
+}
+
+[[maybe_unused]] const bool registered = (reads(), texts(), true);
+}  // namespace
