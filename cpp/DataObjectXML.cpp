@@ -52,8 +52,11 @@ void appendEscaped(zkstringbuffer& out, char c, bool replaceQuotes) {
 }  // namespace
 
 void DataObjectXML::appendIndent(zkstringbuffer& out, int level) {
-  constexpr unsigned int deepest = 52;
-  out.append(static_cast<int>(std::min(static_cast<unsigned int>(level), deepest)), '\t');
+  constexpr char tabs[] =
+      "\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t";
+  constexpr unsigned int deepest = sizeof tabs - 1;
+  static_assert(deepest == 52);
+  out.append(tabs, std::min(static_cast<unsigned int>(level), deepest));
 }
 
 bool DataObjectXML::hasNonXMLCharacters(const zkstring& text) {
