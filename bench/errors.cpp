@@ -29,15 +29,14 @@ class PlainException : public std::exception {
 };
 
 /// Calls `fail` below `frames` calls, each with something to clean up.
-template <class Fail>
-[[gnu::noinline]] int below(int frames, Fail fail) {
+[[gnu::noinline]] int below(int frames, int (*fail)()) {
   const std::string local(1, static_cast<char>(frames));
   benchmark::DoNotOptimize(local.data());
   return frames == 0 ? fail() : below(frames - 1, fail) + 1;
 }
 
-[[noreturn]] void failOurs() { throwFrom("bench/errors", TransformException(zkstringliteral("Unexpected error"))); }
-[[noreturn]] void failPlain() { throw PlainException(); }
+[[gnu::noinline]] int failOurs() { throwFrom("bench/errors", TransformException(zkstringliteral("Unexpected error"))); }
+[[gnu::noinline]] int failPlain() { throw PlainException(); }
 
 template <class E, class Action>
 int lineOf(Action action) {
@@ -51,10 +50,9 @@ int lineOf(Action action) {
 
 void throwing() {
   const char* const subject = "throw and catch through 8 frames";
-  measure(subject, ours,
-          [] { return lineOf<TransformException>([] { return below(depth, [] { return failOurs(), 0; }); }); });
+  measure(subject, ours, [] { return lineOf<TransformException>([] { return below(depth, failOurs); }); });
   measure(subject, "a bare exception as large",
-          [] { return lineOf<PlainException>([] { return below(depth, [] { return failPlain(), 0; }); }); });
+          [] { return lineOf<PlainException>([] { return below(depth, failPlain); }); });
 }
 
 void stamping() {
@@ -65,8 +63,7 @@ void stamping() {
               [] {
                 stamped([](TransformException& error) { error.fillPhase(TransformException::getINPUT_PHASE()); },
                         [] {
-                          stamped([](TransformException& error) { error.setLine(12); },
-                                  [] { below(depth, [] { return failOurs(), 0; }); });
+                          stamped([](TransformException& error) { error.setLine(12); }, [] { below(depth, failOurs); });
                         });
               });
     });
@@ -80,9 +77,8 @@ void stamping() {
     }
   };
   measure(subject, "a bare exception as large", [through] {
-    return lineOf<PlainException>([through] {
-      through([through] { through([through] { through([] { below(depth, [] { return failPlain(), 0; }); }); }); });
-    });
+    return lineOf<PlainException>(
+        [through] { through([through] { through([through] { through([] { below(depth, failPlain); }); }); }); });
   });
 }
 
