@@ -21,10 +21,11 @@ constinit SharedHandler shared;
 constinit ExceptionHandler* ExceptionHandler::DRACONIAN_EXCEPTION_HANDLER = &shared.handler;
 
 void DraconianExceptionHandler::onException(ExceptionDataObject* exception) {
-  if (const auto* const error = dynamic_cast<const TransformException*>(exception)) {
+  const ExceptionDataObject& data = *exception;
+  if (const auto* const error = dynamic_cast<const TransformException*>(&data)) {
     throwFrom(here, TransformException(*error));
   }
-  throwFrom(here, TransformException(*exception));
+  throwFrom(here, TransformException(data));
 }
 
 void CascadingExceptionHandler::onException(ExceptionDataObject* exception) {

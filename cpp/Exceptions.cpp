@@ -45,7 +45,7 @@ TransformException::TransformException(const zkstring& message, Exception* detai
 
 TransformException::TransformException(const ExceptionDataObject& data)
     : Exception(zkstring::EMPTY), ExceptionDataObject(data) {
-  if (isNotNull(MESSAGE)) Exception::setMessage(getMessage());
+  if (isNotNull(MESSAGE)) Exception::setMessage(ExceptionDataObject::getMessage());
 }
 
 TransformException::TransformException(std::vector<ExceptionDataObject*>& entries)
