@@ -19,7 +19,7 @@ class BigInteger : public MAPM {
   BigInteger(unsigned long long value) : BigInteger(static_cast<__int64>(value)) {}  ///< taken as signed on purpose
   /// Blanks, a sign, digits with a point, an exponent behind `e`; anything else warns on standard error and is 0.
   BigInteger(const char* text) : MAPM(text) {}
-  BigInteger(const zkstring& text);     ///< the same; a NUL ends the text
+  BigInteger(const zkstring& text);              ///< the same; a NUL ends the text
   explicit BigInteger(const BigDecimal& value);  ///< keeps a fraction
 
   int toInt() const { return MAPM::toInt(); }  ///< toward zero; beyond `int` some other number, as with `atoi`

@@ -26,7 +26,7 @@ class Object {
  public:
   static const zkstringliteral OBJECT_TYPE;
 
-  Object(const Object& /*other*/) {}                            ///< copies nothing
+  Object(const Object& /*other*/) {}  ///< copies nothing
   Object& operator=(const Object& /*other*/) { return *this; }
 
   virtual void addRef();
