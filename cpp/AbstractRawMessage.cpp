@@ -31,6 +31,7 @@ zkstring RawMessageList::toString() const {
   return text;
 }
 
+// NOLINTNEXTLINE(bugprone-copy-constructor-init): the copy has no owner yet
 AbstractRawMessage::AbstractRawMessage(const AbstractRawMessage& other)
     : Object(),
       PropertyMapForwarder(),

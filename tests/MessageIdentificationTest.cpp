@@ -94,7 +94,6 @@ TEST(MessageIdentificationService, knowsFixAndSiacCanonicalByDefault) {
   const Row rows[] = {
       {"", "unknown"},
       {"8=FI", "unknown"},
-      {"9=FIX", "unknown"},
       {"10001=Canonica", "unknown"},
       {"8=FIX", "MessageFormat=FIX|MessageVersion=|BeginString=FIX|"},
       {"8=FIX.4.2|9=100|35=D|49=A|56=B|34=7|52=20010101-00:00:00|11=X|50=behind|",
@@ -111,7 +110,6 @@ TEST(MessageIdentificationService, knowsFixAndSiacCanonicalByDefault) {
   for (const Row& row : rows) EXPECT_EQ(headerOf(row.message), row.header) << row.message;
   EXPECT_EQ(headerOf("8=FIX.4.2|9=abc|35=D|").substr(0, 14), "FIX: [col 16] ");
   EXPECT_EQ(headerOf("10001=Canonical|10007=abc|").substr(0, 24), "SIAC: [col 26] [col 26] ");
-  EXPECT_EQ(headerOf("8=FIX.4.2|=D|").substr(0, 14), "FIX: [col 13] ");
 }
 
 TEST(CartridgeMessageIdentifier, needsTheNameOfAFormat) {

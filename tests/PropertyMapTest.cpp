@@ -164,52 +164,29 @@ TEST(PropertyMap, putsSharedOrClonedValues) {
 }
 
 TEST(PropertyMap, allocatesNothingWhileItIsEmpty) {
-  const zkstringliteral name("a");
+  const zkstringliteral name("xaxabaab_");
   const SmartPtr<PropertyMapImpl> map(new PropertyMapImpl);
   WildcardFilter filter(zkstringliteral("*a*b*?"));
-  const zkstringliteral text("xaxabaab_");
   const Allocations allocations;
   EXPECT_EQ(map->getIntProperty(name, 3), 3);
-  EXPECT_EQ(map->getStringProperty(name, name), "a");
   map->removeProperty(name);
   map->clearProperties();
-  EXPECT_TRUE(filter.accept(text));
+  EXPECT_TRUE(filter.accept(name));
   EXPECT_EQ(allocations.count(), 0);
 }
 
 TEST(WildcardFilter, acceptsByItsRule) {
   struct Row {
     const char* pattern;
-    const char* accepted;  // separated by blanks
-    const char* rejected;
+    const char* name;
+    bool accepted;
   };
-  constexpr Row rows[] = {{"abc", "abc", "ab abcd ABC"},
-                          {"a*", "a ab a*", "ba"},
-                          {"**", "a abc", ""},
-                          {"*ab", "ab abxab ababab", "abx b"},
-                          {"?b", "", "ab b bb"},
-                          {"a?c", "", "abc a?c"},
-                          {"a*c", "ac abc abcc", "abcd"},
-                          {"a??*", "a ab abcd", "b ba"},
-                          {"*.id", "x.id .id", "id xid"},
-                          {"a?", "ab", "a abc"},
-                          {"*b?", "abc bbb", "ab b abcd"}};
-  const auto each = [](const char* words, auto action) {
-    std::string word;
-    for (const char* at = words;; ++at) {
-      if (*at != ' ' && *at != '\0') {
-        word += *at;
-      } else {
-        if (!word.empty()) action(word.c_str());
-        word.clear();
-        if (*at == '\0') return;
-      }
-    }
-  };
+  constexpr Row rows[] = {{"", "", true},        {"", "a", false},      {"abc", "abc", true}, {"abc", "abcd", false},
+                          {"abc", "ABC", false}, {"a*", "a", true},     {"**", "abc", true},  {"*ab", "abxab", true},
+                          {"?b", "ab", false},   {"a?c", "abc", false}, {"a*c", "abc", true}, {"a??*", "a", true},
+                          {"a?", "ab", true},    {"*b?", "abbc", true}};
   for (const Row& row : rows) {
-    WildcardFilter filter(row.pattern);
-    each(row.accepted, [&](const char* name) { EXPECT_TRUE(filter.accept(name)) << row.pattern << " on " << name; });
-    each(row.rejected, [&](const char* name) { EXPECT_FALSE(filter.accept(name)) << row.pattern << " on " << name; });
+    EXPECT_EQ(WildcardFilter(row.pattern).accept(row.name), row.accepted) << row.pattern << " on " << row.name;
   }
 }
 

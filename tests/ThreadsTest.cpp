@@ -30,9 +30,12 @@ class CountingFormat : public IInputFormat {
 /// Routes FIX and SIAC Canonical messages, and some that nobody knows, with all that a thread keeps for itself.
 void routeMessages() {
   MessageRouter router;
-  auto* const row = new MessageConfiguration;
-  row->setContextProperty(TransformContext::INPUT_FORMAT_PROPERTY, "threads.counting");
-  router.addMessageConfiguration(row);
+  for (const char* type : {"D", "NB"}) {
+    auto* const row = new MessageConfiguration;
+    row->setMessageType(type);
+    row->setContextProperty(TransformContext::INPUT_FORMAT_PROPERTY, "threads.counting");
+    router.addMessageConfiguration(row);
+  }
   const SmartPtr<ILookupContext> registry = LookupContextFactory::getLookupContext();
   TransformContext context;
   constexpr int rounds = 100;
@@ -51,6 +54,7 @@ void routeMessages() {
         ASSERT_EQ(error.getMessage(), "Unrecognized message format");
       }
     }
+    ASSERT_EQ(Resources::getProperty("SRT100.message").empty(), false);
     ASSERT_EQ(registry->getInputFormats().contains("threads.counting"), true);
     const SmartPtr<Object> made(UserClassManager::createInstance("CartridgeMessageIdentifier"));
     ASSERT_THROW(registry->lookupOutputFormat("threads.counting"), NamingException);

@@ -54,11 +54,5 @@ TEST(CustomClassSupport, letsGoOfAnObjectOfAnotherClass) {
   EXPECT_EQ(Processing::alive, 0);
 }
 
-TEST(Registrar, callsItsFunctionAtOnce) {
-  static int calls = 0;
-  const Registrar registrar([] { ++calls; });
-  EXPECT_EQ(calls, 1);
-}
-
 }  // namespace
 }  // namespace zarvik
