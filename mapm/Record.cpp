@@ -5,23 +5,27 @@
 #include <cstdlib>
 #include <new>
 
+#include "DigitShift.h"
+
 namespace {
 
 constexpr int firstBytes = 80;   ///< of a new record
 constexpr int blockBytes = 208;  ///< to which it grows in place
-constexpr int spareBytes = 4;
+constexpr int spareBytes = 16;   ///< that may be read and written, but count for nothing
 constexpr int poolLimit = 256;
 
-/// A record and the room for its first digits in one allocation. A longer number has a block of its own.
+/// A record and the room for its first digits in one allocation. A longer number has a block of its own. In the pool
+/// the place of the digits' address holds the next block's.
 struct Block {
   M_APM_struct record;
   alignas(16) unsigned char digits[blockBytes + spareBytes];
-  Block* next;
 };
 
 // Plain thread-local data without constructors: usable from any static initialiser and until the very end.
 constinit thread_local Block* pool = nullptr;
 constinit thread_local int pooled = 0;
+
+Block* nextOf(const Block* block) { return reinterpret_cast<Block*>(block->record.data); }
 
 /// Gives the pool back when its thread ends; numbers that go later are freed one by one.
 struct Drain {
@@ -29,7 +33,7 @@ struct Drain {
     pooled = poolLimit;  // full for good
     while (pool != nullptr) {
       Block* const block = pool;
-      pool = block->next;
+      pool = nextOf(block);
       ::operator delete(block);
     }
   }
@@ -43,7 +47,7 @@ Block* newBlock() {
 Block* pooledBlock() {
   Block* const block = pool;
   if (block == nullptr) return newBlock();
-  pool = block->next;
+  pool = nextOf(block);
   --pooled;
   return block;
 }
@@ -69,7 +73,7 @@ void m_apm_free(M_APM_struct* number) {
   if (!isSmall(number)) ::operator delete(number->data);
   Block* const block = reinterpret_cast<Block*>(number);
   if (pooled >= poolLimit) return ::operator delete(block);
-  block->next = pool;
+  number->data = reinterpret_cast<unsigned char*>(pool);
   pool = block;
   ++pooled;
 }
@@ -115,20 +119,6 @@ void refuse(M_APM_struct* number, const char* warning) {
 }
 
 namespace {
-
-/// Moves all digits one place to the front; the first one is a zero. Whole padded words, read ahead of the writing.
-void dropLeadingDigit(unsigned char* data, int bytes) {
-  const int words = paddedBytes(bytes) / 8;
-  std::uint64_t tens;
-  std::uint64_t units = splitTens(loadLow(data), tens);
-  for (int i = 0; i < words; ++i) {
-    std::uint64_t nextTens = 0;
-    const std::uint64_t nextUnits = i + 1 < words ? splitTens(loadLow(data + 8 * (i + 1)), nextTens) : 0;
-    storeLow(data + 8 * i, 10 * units + (tens >> 8 | nextTens << 56));
-    units = nextUnits;
-    tens = nextTens;
-  }
-}
 
 int leadingZeroBytes(const unsigned char* data, int bytes) {
   int zeros = 0;

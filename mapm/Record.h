@@ -30,14 +30,6 @@ inline void storeLow(void* bytes, std::uint64_t word) {
   std::memcpy(bytes, &word, sizeof word);
 }
 
-/// Eight base-100 bytes: the tens of each go into `tens`, the units are returned.
-inline std::uint64_t splitTens(std::uint64_t word, std::uint64_t& tens) {
-  constexpr std::uint64_t lanes = 0x00FF00FF00FF00FF;
-  constexpr std::uint64_t digit = 0x000F000F000F000F;
-  tens = (((word & lanes) * 103 >> 10) & digit) | (((word >> 8 & lanes) * 103 >> 10) & digit) << 8;
-  return word - 10 * tens;
-}
-
 /// The fatal end of the routine that is named: "'m_apm_...', Out of memory".
 [[noreturn]] void outOfMemory(const char* message);
 

@@ -3,6 +3,7 @@
 #include <emmintrin.h>
 #endif
 
+#include "DigitShift.h"
 #include "Record.h"
 
 // Addition and subtraction, in base 100 as the digits lie, sixteen bytes at a time.
@@ -10,72 +11,102 @@
 namespace zarvik::mapm {
 namespace {
 
+/// The digits of an operand, with zeros behind them up to whole blocks of sixteen bytes.
+struct Digits {
+  const unsigned char* data;
+  int bytes;
+};
+
+Digits plain(const M_APM_struct* a) { return {a->data, byteCount(a)}; }
+
 #ifdef __SSE2__
 
 __m128i load(const unsigned char* bytes) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes)); }
 
-/// Byte by byte.
-__m128i timesTen(__m128i digits) {
-  const __m128i twice = _mm_add_epi8(digits, digits);
-  const __m128i four = _mm_add_epi8(twice, twice);
-  return _mm_add_epi8(_mm_add_epi8(four, four), twice);
-}
-
-/// Lanes of all bits where a carry goes into a byte: from the byte behind it, or from the block behind this one.
-__m128i carriesIn(__m128i out, __m128i behind) {
-  return _mm_or_si128(_mm_srli_si128(out, 1), _mm_slli_si128(behind, 15));
-}
-
-/// a + b. A byte is kept less 100, so that its sign tells whether it carries.
+/// a + b
 struct Adder {
-  static __m128i combine(__m128i a, __m128i b) { return _mm_add_epi8(a, _mm_sub_epi8(b, _mm_set1_epi8(100))); }
-  static __m128i carries(__m128i raw) { return _mm_cmpgt_epi8(raw, _mm_set1_epi8(-1)); }
-  static __m128i wavering(__m128i raw) { return _mm_cmpeq_epi8(raw, _mm_set1_epi8(-1)); }
+  static __m128i raw(__m128i a, __m128i b) { return _mm_add_epi8(a, b); }
+  static __m128i carries(__m128i a, __m128i b) { return _mm_cmpgt_epi8(_mm_adds_epi8(a, b), _mm_set1_epi8(99)); }
   static __m128i apply(__m128i raw, __m128i in) { return _mm_sub_epi8(raw, in); }
-  static __m128i settle(__m128i sum, __m128i out) {
-    return _mm_add_epi8(sum, _mm_andnot_si128(out, _mm_set1_epi8(100)));
-  }
+  static __m128i settle(__m128i sum) { return _mm_min_epu8(sum, _mm_sub_epi8(sum, _mm_set1_epi8(100))); }
+  static __m128i missed(__m128i out, __m128i in) { return _mm_add_epi8(out, in); }  // below 0 where 99 became 0
+  static bool overflows(int a, int b) { return a + b > 99; }
+  static constexpr int step = 1;
+  static constexpr int last = 99;
 };
 
-/// a - b; a byte below 0 borrows.
+/// a - b
 struct Subtracter {
-  static __m128i combine(__m128i a, __m128i b) { return _mm_sub_epi8(a, b); }
-  static __m128i carries(__m128i raw) { return _mm_cmpgt_epi8(_mm_setzero_si128(), raw); }
-  static __m128i wavering(__m128i raw) { return _mm_cmpeq_epi8(raw, _mm_setzero_si128()); }
+  static __m128i raw(__m128i a, __m128i b) { return _mm_sub_epi8(a, b); }
+  static __m128i carries(__m128i a, __m128i b) { return _mm_cmpgt_epi8(b, a); }
   static __m128i apply(__m128i raw, __m128i in) { return _mm_add_epi8(raw, in); }
-  static __m128i settle(__m128i sum, __m128i out) { return _mm_add_epi8(sum, _mm_and_si128(out, _mm_set1_epi8(100))); }
+  static __m128i settle(__m128i sum) { return _mm_min_epu8(sum, _mm_add_epi8(sum, _mm_set1_epi8(100))); }
+  static __m128i missed(__m128i out, __m128i in) {  // above 127 where 0 became 99
+    return _mm_add_epi8(out, _mm_sub_epi8(_mm_set1_epi8(28), in));
+  }
+  static bool overflows(int a, int b) { return a < b; }
+  static constexpr int step = -1;
+  static constexpr int last = 0;
 };
 
-/// Combines blocks of sixteen bytes from the last to the first.
+/// Combines sixteen bytes at a time, from the first to the last. Each byte takes the carry that the bytes behind it, as
+/// they stand, give out; where a byte hands a carry on that came to it, which is seldom, the carry is added later.
 template <class Operation>
 class Chain {
  public:
-  void step(unsigned char* out, const unsigned char* a, const unsigned char* b) {
-    const __m128i raw = Operation::combine(load(a), load(b));
-    __m128i carries = Operation::carries(raw);
-    __m128i in = carriesIn(carries, behind);
-    __m128i sum = Operation::apply(raw, in);
-    if (_mm_movemask_epi8(_mm_and_si128(Operation::wavering(raw), in)) != 0) [[unlikely]]
-      ripple(raw, carries, sum);
-    _mm_storeu_si128(reinterpret_cast<__m128i*>(out), Operation::settle(sum, carries));
-    behind = carries;
+  explicit Chain(unsigned char* out) : out(out) {}
+
+  /// Bytes i to i + 15; the other two operands are those of one byte on.
+  void step(int i, __m128i a, __m128i b, __m128i nextA, __m128i nextB) {
+    const __m128i in = Operation::carries(nextA, nextB);
+    const __m128i sum = Operation::settle(Operation::apply(Operation::raw(a, b), in));
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(out + i), sum);
+    const int missed = _mm_movemask_epi8(Operation::missed(sum, in));
+    if (missed != 0) [[unlikely]]
+      carryOn(i, static_cast<unsigned int>(missed));
   }
-  bool carry() const { return (_mm_movemask_epi8(behind) & 1) != 0; }
+  bool carry() const { return carried; }  ///< beyond the first byte, of those added later
 
  private:
-  /// A carry went into a byte that hands it on: repeats until no carry is new.
-  void ripple(__m128i raw, __m128i& carries, __m128i& sum) const {
-    for (;;) {
-      const __m128i now = Operation::carries(sum);
-      const __m128i all = _mm_or_si128(now, carries);
-      if (_mm_movemask_epi8(_mm_cmpeq_epi8(all, carries)) == 0xFFFF) return;
-      carries = all;
-      sum = Operation::apply(raw, carriesIn(carries, behind));
+  void carryOn(int i, unsigned int missed) {
+    for (; missed != 0; missed &= missed - 1) carryInto(i + std::countr_zero(missed) - 1);
+  }
+  void carryInto(int i) {
+    for (; i >= 0 && out[i] == Operation::last; --i) out[i] = 99 - Operation::last;
+    if (i < 0) {
+      carried = true;
+    } else {
+      out[i] = static_cast<unsigned char>(out[i] + Operation::step);
     }
   }
 
-  __m128i behind = _mm_setzero_si128();
+  unsigned char* const out;
+  bool carried = false;
 };
+
+__m128i behindFirst(__m128i bytes) { return _mm_srli_si128(bytes, 1); }
+
+/// out = a op b over the longer one's blocks; the shorter one is followed by zeros. Whether a carry is left.
+template <class Operation>
+bool combine(unsigned char* out, Digits a, Digits b) {
+  const int endOfA = paddedBytes(a.bytes);
+  const int endOfB = paddedBytes(b.bytes);
+  const int last = std::min(endOfA, endOfB) - 16;
+  Chain<Operation> chain(out);
+  int i = 0;
+  for (; i < last; i += 16) {
+    chain.step(i, load(a.data + i), load(b.data + i), load(a.data + i + 1), load(b.data + i + 1));
+  }
+  const __m128i zero = _mm_setzero_si128();
+  __m128i lastA = load(a.data + i);
+  for (; i < endOfB - 16; i += 16, lastA = zero) {
+    chain.step(i, lastA, load(b.data + i), behindFirst(lastA), load(b.data + i + 1));
+  }
+  const __m128i lastB = load(b.data + i);
+  chain.step(i, lastA, lastB, behindFirst(lastA), behindFirst(lastB));
+  if (endOfA > i + 16) std::memcpy(out + i + 16, a.data + i + 16, static_cast<std::size_t>(endOfA - i - 16));
+  return chain.carry() || Operation::overflows(a.data[0], b.data[0]);
+}
 
 #else
 
@@ -114,16 +145,6 @@ class Chain {
   bool behind = false;
 };
 
-#endif
-
-/// The digits of an operand, with zeros behind them up to whole blocks of sixteen bytes.
-struct Digits {
-  const unsigned char* data;
-  int bytes;
-};
-
-Digits plain(const M_APM_struct* a) { return {a->data, byteCount(a)}; }
-
 /// out = a op b over the longer one's blocks; the shorter one is followed by zeros. Whether a carry is left.
 template <class Operation>
 bool combine(unsigned char* out, Digits a, Digits b) {
@@ -138,34 +159,7 @@ bool combine(unsigned char* out, Digits a, Digits b) {
   return chain.carry();
 }
 
-/// Moves `bytes` bytes of digits one digit to the back, behind `digit`, from `in` to `out`, which may be the same.
-/// `out` has room for 16 bytes more; what follows the digits there is zero up to byte bytes + 1 at least.
-void insertDigit(unsigned char* out, const unsigned char* in, int bytes, unsigned int digit) {
-  int i = 0;
-#ifdef __SSE2__
-  __m128i behind = _mm_set_epi32(static_cast<int>(digit << 24), 0, 0, 0);
-  for (; i < bytes; i += 16) {
-    const __m128i pair = load(in + i);
-    const __m128i even = _mm_mullo_epi16(_mm_and_si128(pair, _mm_set1_epi16(0xFF)), _mm_set1_epi16(103));
-    const __m128i odd = _mm_mullo_epi16(_mm_srli_epi16(pair, 8), _mm_set1_epi16(103));
-    const __m128i tens = _mm_or_si128(_mm_srli_epi16(even, 10), _mm_slli_epi16(_mm_srli_epi16(odd, 10), 8));
-    const __m128i units = _mm_sub_epi8(pair, timesTen(tens));
-    const __m128i moved = _mm_or_si128(_mm_slli_si128(units, 1), _mm_srli_si128(behind, 15));
-    _mm_storeu_si128(reinterpret_cast<__m128i*>(out + i), _mm_add_epi8(timesTen(moved), tens));
-    behind = units;
-  }
-  const auto before = static_cast<unsigned int>(_mm_cvtsi128_si32(_mm_srli_si128(behind, 15)));
-#else
-  std::uint64_t before = digit;
-  for (; i < bytes; i += 8) {
-    std::uint64_t tens;
-    const std::uint64_t units = splitTens(loadLow(in + i), tens);
-    storeLow(out + i, 10 * (units << 8 | before) + tens);
-    before = units >> 56;
-  }
 #endif
-  storeLow(out + i, 10 * before);
-}
 
 /// The digits of `a` behind `shift` zeros, made in `scratch`.
 Digits shifted(M_APM_struct* scratch, const M_APM_struct* a, int shift) {

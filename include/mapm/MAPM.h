@@ -11,7 +11,7 @@ struct M_APM_struct {
   unsigned char* data;  ///< two decimal digits a byte, the first byte most significant, each byte 0 to 99
   int id;               ///< M_APM_IDENT, tested when the number is freed
   int refCount;         ///< handles that share the record; a plain integer
-  int mallocLength;     ///< bytes of `data` in use by the kernel; a few spare bytes lie behind them
+  int mallocLength;     ///< bytes of `data` in use by the kernel; 16 spare bytes lie behind them
   int dataLength;       ///< significant decimal digits, at least 1
   int exponent;
   int sign;  ///< -1, 0 or 1

@@ -1,0 +1,105 @@
+#include "DigitShift.h"
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
+
+#include "Record.h"
+
+// Two digits share a byte, so that a move by one digit takes every byte apart. Sixteen or eight bytes at a time.
+
+namespace zarvik::mapm {
+
+#ifdef __SSE2__
+
+namespace {
+
+__m128i load(const unsigned char* bytes) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes)); }
+void store(unsigned char* out, __m128i bytes) { _mm_storeu_si128(reinterpret_cast<__m128i*>(out), bytes); }
+
+/// Of each byte. A tenth of the pair serves the second byte: what the first one adds does not reach its tens.
+__m128i tensOf(__m128i pairs) {
+  const __m128i tenth = _mm_set1_epi16(6554);  // of 2^16
+  const __m128i first = _mm_mulhi_epu16(_mm_and_si128(pairs, _mm_set1_epi16(0xFF)), tenth);
+  const __m128i second = _mm_andnot_si128(_mm_set1_epi16(0xFF), _mm_mulhi_epu16(pairs, tenth));
+  return _mm_or_si128(first, second);
+}
+
+/// Single digits, so that no byte reaches into the next one.
+__m128i timesTen(__m128i digits) { return _mm_mullo_epi16(digits, _mm_set1_epi16(10)); }
+
+/// Each byte's units and the tens of the one behind it; the last byte lacks these.
+__m128i joinNeighbours(__m128i pairs) {
+  const __m128i tens = tensOf(pairs);
+  const __m128i units = _mm_sub_epi8(pairs, timesTen(tens));
+  return _mm_add_epi8(timesTen(units), _mm_srli_si128(tens, 1));
+}
+
+/// out[i] = the units of in[i] and the tens of in[i + 1], for `bytes` bytes; up to 15 bytes behind them are read and
+/// lost, too. `out` is `in` or a byte behind it, or they lie apart: the next bytes are read before a block is written.
+void joinNeighbours(unsigned char* out, const unsigned char* in, int bytes) {
+  constexpr int step = 15;
+  __m128i joined = joinNeighbours(load(in));
+  int i = step;
+  for (; i < bytes; i += step) {
+    const __m128i next = load(in + i);
+    store(out + i - step, joined);
+    joined = joinNeighbours(next);
+  }
+  store(out + i - step, joined);
+}
+}  // namespace
+
+void insertDigit(unsigned char* out, const unsigned char* in, int bytes, unsigned int digit) {
+  const auto first = static_cast<unsigned char>(10 * digit + in[0] / 10);
+  const auto last = static_cast<unsigned char>(10 * (in[bytes - 1] % 10));
+  joinNeighbours(out + 1, in, bytes);
+  out[0] = first;
+  out[bytes] = last;
+}
+
+void dropLeadingDigit(unsigned char* data, int bytes) {
+  data[paddedBytes(bytes)] = 0;  // gives its tens
+  joinNeighbours(data, data, paddedBytes(bytes));
+}
+
+#else
+
+namespace {
+
+/// Eight base-100 bytes: the tens of each go into `tens`, the units are returned.
+std::uint64_t splitTens(std::uint64_t word, std::uint64_t& tens) {
+  constexpr std::uint64_t lanes = 0x00FF00FF00FF00FF;
+  constexpr std::uint64_t digit = 0x000F000F000F000F;
+  tens = (((word & lanes) * 103 >> 10) & digit) | (((word >> 8 & lanes) * 103 >> 10) & digit) << 8;
+  return word - 10 * tens;
+}
+}  // namespace
+
+void insertDigit(unsigned char* out, const unsigned char* in, int bytes, unsigned int digit) {
+  std::uint64_t before = digit;
+  int i = 0;
+  for (; i < bytes; i += 8) {
+    std::uint64_t tens;
+    const std::uint64_t units = splitTens(loadLow(in + i), tens);
+    storeLow(out + i, 10 * (units << 8 | before) + tens);
+    before = units >> 56;
+  }
+  storeLow(out + i, 10 * before);
+}
+
+void dropLeadingDigit(unsigned char* data, int bytes) {
+  const int words = paddedBytes(bytes) / 8;
+  std::uint64_t tens;
+  std::uint64_t units = splitTens(loadLow(data), tens);
+  for (int i = 0; i < words; ++i) {
+    std::uint64_t nextTens = 0;
+    const std::uint64_t nextUnits = i + 1 < words ? splitTens(loadLow(data + 8 * (i + 1)), nextTens) : 0;
+    storeLow(data + 8 * i, 10 * units + (tens >> 8 | nextTens << 56));
+    units = nextUnits;
+    tens = nextTens;
+  }
+}
+
+#endif
+
+}  // namespace zarvik::mapm
