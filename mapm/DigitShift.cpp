@@ -1,8 +1,6 @@
 #include "DigitShift.h"
-#ifdef __SSE2__
-#include <emmintrin.h>
-#endif
 
+#include "Factor.h"
 #include "Record.h"
 
 // Two digits share a byte, so that a move by one digit takes every byte apart. Sixteen or eight bytes at a time.
@@ -24,26 +22,25 @@ __m128i tensOf(__m128i pairs) {
   return _mm_or_si128(first, second);
 }
 
-/// Single digits, so that no byte reaches into the next one.
-__m128i timesTen(__m128i digits) { return _mm_mullo_epi16(digits, _mm_set1_epi16(10)); }
-
-/// Each byte's units and the tens of the one behind it; the last byte lacks these.
-__m128i joinNeighbours(__m128i pairs) {
+/// Each byte's units and the tens of the one behind it; the last byte lacks these. Products of digits keep to their
+/// bytes.
+__m128i joinNeighbours(__m128i pairs, __m128i ten) {
   const __m128i tens = tensOf(pairs);
-  const __m128i units = _mm_sub_epi8(pairs, timesTen(tens));
-  return _mm_add_epi8(timesTen(units), _mm_srli_si128(tens, 1));
+  const __m128i units = _mm_sub_epi8(pairs, _mm_mullo_epi16(tens, ten));
+  return _mm_add_epi8(_mm_mullo_epi16(units, ten), _mm_srli_si128(tens, 1));
 }
 
 /// out[i] = the units of in[i] and the tens of in[i + 1], for `bytes` bytes; up to 15 bytes behind them are read and
 /// lost, too. `out` is `in` or a byte behind it, or they lie apart: the next bytes are read before a block is written.
 void joinNeighbours(unsigned char* out, const unsigned char* in, int bytes) {
   constexpr int step = 15;
-  __m128i joined = joinNeighbours(load(in));
+  const __m128i ten = factor(10);
+  __m128i joined = joinNeighbours(load(in), ten);
   int i = step;
   for (; i < bytes; i += step) {
     const __m128i next = load(in + i);
     store(out + i - step, joined);
-    joined = joinNeighbours(next);
+    joined = joinNeighbours(next, ten);
   }
   store(out + i - step, joined);
 }

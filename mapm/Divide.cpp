@@ -64,25 +64,43 @@ void divideBySchoolbook(Word* quotient, Word* numerator, int n, const Word* divi
   }
 }
 
-/// |a / b| * base^k / 10^(exponents' difference), cut, in k + 1 words.
-void quotientWords(Word* quotient, int k, const M_APM_struct* a, const M_APM_struct* b) {
+/// Moves all digits of the words one place down; the last one is lost.
+void shiftDown(Word* words, int n) {
+  Word digit = 0;
+  for (int i = n; i-- > 0;) {
+    const Word word = words[i];
+    words[i] = word / 10 + digit * (base / 10);
+    digit = word % 10;
+  }
+}
+
+/// The first `count` words of the fraction, filled up with zeros. What lies behind the quotient's last word does not
+/// count.
+void leadingWords(Word* out, int count, const M_APM_struct* a) {
   const int na = wordCount(a);
+  if (na <= count) {
+    toWords(out + count - na, a, na);
+    std::fill_n(out, count - na, Word{0});
+  } else {
+    Words all(na);
+    toWords(all, a, na);
+    std::copy_n(all + na - count, count, out);
+  }
+}
+
+/// The fractions' quotient as a fraction of k words, cut, that begins with a digit other than 0. It may be a tenth of
+/// the true one: tells how often, 0 or 1.
+int quotientWords(Word* quotient, int k, const M_APM_struct* a, const M_APM_struct* b) {
   const int nd = wordCount(b);
   const int n = nd + k;
   Words divisor(nd);
-  Words numerator(std::max(n + 1, na));
+  Words numerator(n);
   toWords(divisor, b, nd);
-  Word* const top = numerator + n;
-  if (na <= n) {
-    toWords(top - na, a, na);
-    std::fill(static_cast<Word*>(numerator), top - na, Word{0});
-  } else {  // what lies behind the quotient's last word does not count
-    Words all(na);
-    toWords(all, a, na);
-    std::copy_n(all + na - n, n, static_cast<Word*>(numerator));
-  }
-  *top = 0;
-  divideWords(quotient, numerator, n, divisor, nd);
+  leadingWords(numerator, n, a);
+  const bool isBelow = compareWords(numerator + k, divisor, nd) < 0;
+  if (!isBelow) shiftDown(numerator, n);
+  divideWords(quotient, numerator, n - 1, divisor, nd);
+  return isBelow ? 0 : 1;
 }
 
 /// The first `keep` digits of the number, without rounding.
@@ -98,11 +116,10 @@ void cut(M_APM_struct* number, long long keep) {
 
 /// a / b to `digits` significant digits, cut.
 void longDivision(M_APM_struct* result, long long digits, const M_APM_struct* a, const M_APM_struct* b) {
-  const int k = static_cast<int>(digits / wordDigits) + 1;
-  Words quotient(k + 1);
-  quotientWords(quotient, k, a, b);
-  const long long exponent = static_cast<long long>(a->exponent) - b->exponent + wordDigits;
-  fromWords(result, quotient, k + 1, exponent, a->sign * b->sign);
+  const int k = std::max(1, static_cast<int>((digits + wordDigits - 1) / wordDigits));
+  Words quotient(k);
+  const int tenth = quotientWords(quotient, k, a, b);
+  fromWords(result, quotient, k, static_cast<long long>(a->exponent) - b->exponent + tenth, a->sign * b->sign);
   cut(result, digits);
 }
 

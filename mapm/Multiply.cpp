@@ -136,12 +136,35 @@ void multiplyOneWord(M_APM_struct* result, Word a, Word b, long long exponent, i
   storeWords(makeRoom(result, 16), high, low);
   normalise(result, 16, exponent, sign);
 }
+/// Takes one operand ten times where the product would begin with a 0: moving all its digits later costs more. Tells
+/// how often: 0 or 1. In the rare case that only the lower words could decide it leaves the zero alone.
+int scaleToFront(Word first, Word* b, int nb) {
+  constexpr DoubleWord limit = DoubleWord{base / 10} * base;
+  const Word second = b[nb - 1];
+  if (DoubleWord{first} * second + first + second + 1 > limit) return 0;
+  for (int i = 0; i < nb; ++i) b[i] *= 10;  // ten times the base is far from a word's end
+  return 1;
+}
+
+/// The product of two numbers of n words each.
+template <int n>
+void multiplySame(M_APM_struct* result, const M_APM_struct* a, const M_APM_struct* b, long long exponent, int sign) {
+  Word first[n];
+  Word second[n];
+  Word product[2 * n];
+  toWords(first, a, n);
+  toWords(second, b, n);
+  exponent -= scaleToFront(first[n - 1], second, n);
+  multiplyFixed<n>(product, first, second);
+  unsigned char* const data = makeRoom(result, 16 * n);
+#pragma GCC unroll 16
+  for (int i = 0; i < n; ++i) storeWords(data + 16 * i, product[2 * (n - i) - 1], product[2 * (n - i) - 2]);
+  normalise(result, 16 * n, exponent, sign);
+}
 }  // namespace
 
 void multiplyWords(Word* out, const Word* a, int na, const Word* b, int nb) {
   if (na < nb) return multiplyWords(out, b, nb, a, na);
-  if (na == nb && na <= 2) return na == 1 ? multiplyFixed<1>(out, a, b) : multiplyFixed<2>(out, a, b);
-  if (na == nb && na == 7) return multiplyFixed<7>(out, a, b);  // 97 to 112 digits
   if (nb < karatsubaFrom) return multiplyColumns(out, a, na, b, nb);
   if (nb < convolutionFrom && na - nb <= nb / 4) return multiplyByKaratsuba(out, a, na, b, nb);
   if (nb < convolutionFrom && na / 2 < nb) return multiplyColumns(out, a, na, b, nb);
@@ -164,11 +187,14 @@ void m_apm_multiply(M_APM_struct* result, const M_APM_struct* a, const M_APM_str
   }
   const int na = wordCount(a);
   const int nb = wordCount(b);
+  if (na == nb && na == 2) return multiplySame<2>(result, a, b, exponent, sign);
+  if (na == nb && na == 7) return multiplySame<7>(result, a, b, exponent, sign);  // 97 to 112 digits
   Words words(2 * (na + nb));
   Word* const second = words + na;
   Word* const product = second + nb;
   toWords(words, a, na);
   toWords(second, b, nb);
+  const int scaled = na < karatsubaFrom && nb < karatsubaFrom ? scaleToFront(words[na - 1], second, nb) : 0;
   multiplyWords(product, words, na, second, nb);
-  fromWords(result, product, na + nb, exponent, sign);
+  fromWords(result, product, na + nb, exponent - scaled, sign);
 }

@@ -99,7 +99,9 @@ void divideByReciprocal(Word* quotient, Word* numerator, int k, const Word* divi
   const int taken = std::min(n + 1, all);
   Words product(n + 1 + taken);
   multiplyWords(product, x, n + 1, numerator + all - taken, taken);
-  std::copy_n(product + taken + 1, k + 1, quotient);  // base^(n + nd) / divisor * numerator / base^(all - taken)
+  const Word* const estimate = product + taken + 1;  // base^(n + nd) / divisor * numerator / base^(all - taken)
+  std::copy_n(estimate, k + 1, quotient);
+  if (estimate[k + 1] != 0) std::fill_n(quotient, k + 1, base - 1);  // too high to fit
   settle(quotient, k, numerator, divisor, nd);
 }
 

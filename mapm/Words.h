@@ -1,9 +1,6 @@
 #pragma once
 
-#ifdef __SSE2__
-#include <emmintrin.h>
-#endif
-
+#include "Factor.h"
 #include "Record.h"
 
 /// Whole numbers as rows of words to the base 10^16, the lowest word first: what products and quotients are computed
@@ -63,7 +60,7 @@ inline void storeWords(unsigned char* out, Word first, Word second) {
   };
   const __m128i fours = _mm_packs_epi32(fourDigits(eightDigits(first)), fourDigits(eightDigits(second)));
   const __m128i top = _mm_srli_epi16(_mm_mulhi_epu16(fours, _mm_set1_epi16(5243)), 3);
-  const __m128i rest = _mm_sub_epi16(fours, _mm_mullo_epi16(top, _mm_set1_epi16(100)));
+  const __m128i rest = _mm_sub_epi16(fours, _mm_mullo_epi16(top, factor(100)));
   _mm_storeu_si128(reinterpret_cast<__m128i*>(out), _mm_or_si128(top, _mm_slli_epi16(rest, 8)));
 }
 
@@ -89,9 +86,10 @@ inline void storeWords(unsigned char* out, Word first, Word second) {
 inline void toWords(Word* out, const M_APM_struct* a, int count) {
   int i = 0;
 #ifdef __SSE2__
+  const __m128i hundred = factor(100);
   for (; i + 2 <= count; i += 2) {
     const __m128i pairs = _mm_loadu_si128(reinterpret_cast<const __m128i*>(a->data + 8 * i));
-    const __m128i first = _mm_mullo_epi16(_mm_and_si128(pairs, _mm_set1_epi16(0xFF)), _mm_set1_epi16(100));
+    const __m128i first = _mm_mullo_epi16(_mm_and_si128(pairs, _mm_set1_epi16(0xFF)), hundred);
     const __m128i fours = _mm_add_epi16(first, _mm_srli_epi16(pairs, 8));
     const __m128i eights = _mm_madd_epi16(fours, _mm_set1_epi32(0x00012710));  // 10000 and 1
     const __m128i words = _mm_add_epi64(_mm_mul_epu32(eights, _mm_set1_epi64x(100000000)), _mm_srli_epi64(eights, 32));
