@@ -33,7 +33,7 @@ class ByteBuffer {
 
   void append(const char* data, int n) {  ///< `data` may lie in this buffer
     if (lacks(n)) return appendGrowing(data, n);
-    if (n != 0) std::memcpy(bytes + used, data, static_cast<std::size_t>(n));
+    if (n != 0) std::memmove(bytes + used, data, static_cast<std::size_t>(n));  // may overlap behind a chop
     used += n;
   }
   void append(const zkstring& text) { append(text.data(), static_cast<int>(text.length())); }

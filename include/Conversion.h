@@ -61,8 +61,8 @@ void bigDecimalToString(const BigDecimal& value, zkstring& out);
 zkstring binaryToString(const Binary& value);      ///< the bytes as they are, sharing the block
 zkstring dateTimeToString(const DateTime& value);  ///< as "MMM dd, yyyy"
 
-/// Plain decimal text with a terminator into room for `intTextSize` or `longTextSize` bytes; values from 0 to 99, which
-/// most fields hold, take a look-up and three bytes.
+/// Plain decimal text with a terminator, at most `intTextSize` or `longTextSize` bytes, and nothing behind it; values
+/// from 0 to 99, which most fields hold, take a look-up.
 inline void v_itoa(int value, char* out);
 inline void v_ltoa(__int64 value, char* out);
 
@@ -89,7 +89,7 @@ inline constexpr auto smallNumberTexts = [] {
 
 inline void writeSmallNumber(std::size_t value, char* out) {
   std::memcpy(out, smallNumberTexts[value].data(), 2);
-  out[2] = '\0';
+  if (value >= 10) out[2] = '\0';  // nothing behind the terminator is touched
 }
 
 inline void v_itoa(int value, char* out) {

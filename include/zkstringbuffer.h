@@ -30,7 +30,8 @@ class zkstringbuffer : public zkstring {
   zkstringbuffer& append(const char* bytes, unsigned int length) {
     if (!hasRoom(length)) [[unlikely]]
       return appendGrowing(bytes, length);
-    if (length != 0) std::memcpy(start() + count, bytes, length);
+    // A view taken before an edit may reach over the end.
+    if (length != 0) std::memmove(start() + count, bytes, length);
     count += length;
     return *this;
   }

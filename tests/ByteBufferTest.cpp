@@ -32,6 +32,9 @@ TEST(ByteBuffer, growsToTheLargerOfNeedAndDouble) {
   itself.append(itself);
   itself.append(itself.str() + 1, 4);
   EXPECT_EQ(itself.toString(), "abcabcbcab");
+  itself.chop(3);
+  itself.append(itself.str() + 1, 5);  // reaches over the end
+  EXPECT_EQ(itself.toString(), "abcbcabc");
 }
 
 TEST(ByteBuffer, writesTextForms) {

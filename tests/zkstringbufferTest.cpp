@@ -67,6 +67,8 @@ TEST(zkstringbuffer, takesItsOwnTextAsArgument) {
   EXPECT_EQ(buffer.length(), 96U);
   EXPECT_EQ(buffer.erase(6, 99).insert(1, buffer), "aabcabcbcabc");
   EXPECT_EQ(buffer.replace(0, 3, buffer.data() + 10, 2), "bccabcbcabc");
+  const zkstring before(buffer);  // a view that reaches over the end that follows
+  EXPECT_EQ(buffer.erase(2, 99).append(before), "bcbccabcbcabc");
 }
 
 TEST(zkstringbuffer, sharesItsBlockUntilItGrows) {

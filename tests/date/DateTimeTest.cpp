@@ -5,8 +5,10 @@
 #include <cstdlib>
 #include <cstring>
 #include <ctime>
-#include <memory>
+#include <map>
 #include <random>
+#include <string_view>
+#include <vector>
 
 #include "Allocations.h"
 #include "Support.h"
@@ -26,48 +28,51 @@ std::string textOf(const DateTime& value, const char* pattern = complete) {
   return out;
 }
 
+/// Reads from memory that ends with the text, so that the sanitizer sees a look at any byte beyond.
+DateTime readExactly(std::string_view text, const char* pattern) {
+  const std::vector<char> exact(text.begin(), text.end());
+  return DateTime::fromString(exact.data(), static_cast<unsigned int>(exact.size()), pattern);
+}
+
 TEST(DateTime, printsByPattern) {
   constexpr const char* rows[][2] = {
       {"", ""},
       {"H HHH d dddd m mmm s sss", "07 07 03 03 08 08 59 59"},
       {"S SS SSS SSSS .SSSS", "042 042 042 042 .042"},
       {"M MM MMM MMMM MMMMMM", "09 09 Sep September September"},
-      {"y yy yyy yyyy yyyyy", "05 05 05 2005 05"},
+      {"y yy yyy yyyyy", "05 05 05 05"},
       {"yyyyMMddTHH:mm:ss.SSSyyyyMMddd", "20050903T07:08:59.04220050903"},
       {"''quoted'' HH:mm:sss", "''quote03'' 07:08:59"},  // no quoting: d is a field
   };
   for (const auto& [pattern, text] : rows) EXPECT_EQ(textOf(sample, pattern), text);
   for (const int year : {0, 50, -44, 1979, 2030, 9999, 12345}) {
-    char text[20];
+    char text[40];
     std::snprintf(text, sizeof text, "%04d %02d", std::abs(year), std::abs(year) % 100);
-    EXPECT_EQ(textOf(DateTime(year, 1, 1, 0, 0, 0, 0), "yyyy yy"), text);
+    EXPECT_EQ(textOf(DateTime(year, 1, 1, 0, 0, 0, 0), "yyyy yyyyy"), text);
   }
 }
 
 TEST(DateTime, printsTextsOfAnyLengthWhole) {
-  EXPECT_EQ(textOf(TimeSpan(1, -5), "S"), "0-5");  // zeros stand before the sign
-  std::string pattern, expected;
-  for (int runs = 1; runs < 60; ++runs) {
-    EXPECT_EQ(textOf(TimeSpan(1, INT_MIN), (pattern += "S-").c_str()), expected += "-2147483648-");
+  std::string pattern, expected = "0-5";  // zeros stand before the sign
+  EXPECT_EQ(textOf(TimeSpan(1, -5), "S"), expected);
+  for (expected.clear(); pattern.size() < 120; expected += "-2147483648-") {
+    EXPECT_EQ(textOf(TimeSpan(1, INT_MIN), pattern.c_str()), expected);
+    pattern += "S-";
   }
 }
 
 TEST(DateTime, printingAllocatesTheResultAlone) {
   const zkstring pattern = complete;
-  char out[100];
   const Allocations before;
-  sample.asString(out, sizeof out, complete);
+  DateTime::fromString("2024-02-29 23:59:58.997", complete);
   EXPECT_EQ(before.count(), 0);
   sample.toString(pattern);
-  EXPECT_EQ(before.count(), 1);
-  DateTime::fromString(out, complete);
   EXPECT_EQ(before.count(), 1);
 }
 
 TEST(DateTime, readsByPattern) {
   constexpr const char* rows[][3] = {
       {"", "", "1970-01-01 00:00:00.000"},
-      {complete, "2024-02-29 23:59:58.997", "2024-02-29 23:59:58.997"},
       {"yyyyMMdd-HH:mm:ss.SSS", "20240229-01:02:03.004", "2024-02-29 01:02:03.004"},
       {"yy", "69", "2069-01-01 00:00:00.000"},
       {"yy", "70", "1970-01-01 00:00:00.000"},
@@ -82,7 +87,7 @@ TEST(DateTime, readsByPattern) {
       {"HH:mm:ss.SSS", "1x:2/:3x.", "1970-01-01 01:02:03.000"},
       {"HH:mm:ss.SSS", "01:02:03.4", "1970-01-01 01:02:03.004"},
   };
-  for (const auto& [pattern, text, value] : rows) EXPECT_EQ(textOf(DateTime::fromString(text, pattern)), value) << text;
+  for (const auto& [pattern, text, value] : rows) EXPECT_EQ(textOf(readExactly(text, pattern)), value) << text;
 }
 
 TEST(DateTime, tellsWhatCannotBeRead) {
@@ -98,26 +103,15 @@ TEST(DateTime, tellsWhatCannotBeRead) {
       {"dd MMM-", "01 Ma-", "Error parsing month part of date string, expected pattern MMM- found 01 Ma-"},
       {"MMMM", "Sept", "Error parsing month part of date string, expected pattern MMMM found Sept"},
       {"HH:mm", "12-30", "Error parsing date string, expected pattern 'HH:mm' found '12-30"},
+      {"yyyyMMdd-HH:mm:ss.SSS", "20050903-07:08:5",
+       "Error parsing date string, expected pattern 'yyyyMMdd-HH:mm:ss.SSS' found '20050903-07:08:5"},
       {"HH::", "12:", "Error parsing date string, expected pattern 'HH::' found '12:"},
       {"HH", "12:30", "Additional characters at the end of date string, expected pattern 'HH' found '12:30"},
       {"yyyyMMdd HHmm", "19000229 2500", "Illegal date 1900-02-29"},
       {"HHmm", "2459", "Illegal time 24:59:00.000"},
   };
   for (const auto* row : rows) {
-    EXPECT_EQ(errorOf<TransformRuntimeException>([&] { DateTime::fromString(row[1], row[0]); }), row[2]);
-  }
-}
-
-TEST(DateTime, looksAtNothingBehindTheText) {
-  for (const char* pattern : {complete, "yyyyMMdd-HH:mm:ss.SSS", "MMMM dd"}) {
-    const std::string whole = textOf(sample, pattern);
-    for (unsigned int length = 0; length <= whole.size(); ++length) {
-      const std::unique_ptr<char[]> exact(new char[length]);  // the sanitizer sees every byte beyond
-      std::memcpy(exact.get(), whole.data(), length);
-      EXPECT_EQ(
-          errorOf<TransformRuntimeException>([&] { DateTime::fromString(exact.get(), length, pattern); }),
-          errorOf<TransformRuntimeException>([&] { DateTime::fromString(zkstring(exact.get(), length), pattern); }));
-    }
+    EXPECT_EQ(errorOf<TransformRuntimeException>([&] { readExactly(row[1], row[0]); }), row[2]);
   }
 }
 
@@ -136,12 +130,6 @@ TEST(DateTime, agreesWithTheCLibrary) {
   }
 }
 
-TEST(DateTime, constructorsValidate) {
-  EXPECT_EQ(errorOf<TransformRuntimeException>([] { DateTime(1582, 10, 31, 24, 0, 0, 0); }), "Illegal date 1582-10-31");
-  EXPECT_EQ(errorOf<TransformRuntimeException>([] { DateTime(Date(), Time(0, 0, 0, -1)); }),
-            "Illegal time 00:00:00.-01");
-}
-
 TEST(DateTime, computesWithSpans) {
   const DateTime day(1582, 10, 4, 23, 0, 0, 900);
   EXPECT_EQ(textOf(day + TimeSpan(0, 1, 0, 0, 100)), "1582-10-15 00:00:01.000");
@@ -155,16 +143,13 @@ TEST(DateTime, computesWithSpans) {
 }
 
 TEST(DateTime, timestampsCountFromTheEpochOfTheZone) {
-  const auto isOffset = [](const char* zone, int minutes) {
-    inZone(zone, [=] {
+  for (const auto& [zone, minutes] : std::map<const char*, int>{{"UTC0", 0}, {"IST-5:30", 330}, {"EST5", -300}}) {
+    inZone(zone, [minutes = minutes] {
       const DateTime local = DateTime(2023, 11, 14, 16, 13, 20, 5) + TimeSpan(0, 0, minutes + 360, 0, 0);
       return DateTime::localOffset() == minutes && local.toTimestamp() == 1'700'000'000'005 &&
              DateTime::fromTimestamp(1'700'000'000'005) == local;
     });
-  };
-  isOffset("UTC0", 0);
-  isOffset("IST-5:30", 330);
-  isOffset("EST5", -300);
+  }
 }
 
 TEST(DateTime, timestampsBeforeTheEpochAreMagnitudes) {
