@@ -89,7 +89,7 @@ inline constexpr auto smallNumberTexts = [] {
 
 inline void writeSmallNumber(std::size_t value, char* out) {
   std::memcpy(out, smallNumberTexts[value].data(), 2);
-  if (value >= 10) out[2] = '\0';  // nothing behind the terminator is touched
+  out[value < 10 ? 1 : 2] = '\0';  // without a branch, and touching nothing behind the terminator
 }
 
 inline void v_itoa(int value, char* out) {
