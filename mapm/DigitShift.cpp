@@ -18,7 +18,7 @@ void store(unsigned char* out, __m128i bytes) { _mm_storeu_si128(reinterpret_cas
 __m128i tensOf(__m128i pairs) {
   const __m128i tenth = _mm_set1_epi16(6554);  // of 2^16
   const __m128i first = _mm_mulhi_epu16(_mm_and_si128(pairs, _mm_set1_epi16(0xFF)), tenth);
-  const __m128i second = _mm_andnot_si128(_mm_set1_epi16(0xFF), _mm_mulhi_epu16(pairs, tenth));
+  const __m128i second = _mm_and_si128(_mm_mulhi_epu16(pairs, tenth), _mm_set1_epi16(-0x100));
   return _mm_or_si128(first, second);
 }
 
@@ -35,14 +35,14 @@ __m128i joinNeighbours(__m128i pairs, __m128i ten) {
 void joinNeighbours(unsigned char* out, const unsigned char* in, int bytes) {
   constexpr int step = 15;
   const __m128i ten = factor(10);
-  __m128i joined = joinNeighbours(load(in), ten);
-  int i = step;
-  for (; i < bytes; i += step) {
-    const __m128i next = load(in + i);
-    store(out + i - step, joined);
-    joined = joinNeighbours(next, ten);
+  __m128i pairs = load(in);
+  std::ptrdiff_t i = 0;
+  for (; i < bytes - step; i += step) {
+    const __m128i joined = joinNeighbours(pairs, ten);
+    pairs = load(in + i + step);
+    store(out + i, joined);
   }
-  store(out + i - step, joined);
+  store(out + i, joinNeighbours(pairs, ten));
 }
 }  // namespace
 

@@ -58,18 +58,31 @@ class Chain {
 
   /// Bytes i to i + 15; the other two operands are those of one byte on.
   void step(int i, __m128i a, __m128i b, __m128i nextA, __m128i nextB) {
-    const __m128i in = Operation::carries(nextA, nextB);
-    const __m128i sum = Operation::settle(Operation::apply(Operation::raw(a, b), in));
-    _mm_storeu_si128(reinterpret_cast<__m128i*>(out + i), sum);
-    const int missed = _mm_movemask_epi8(Operation::missed(sum, in));
+    const int missed = _mm_movemask_epi8(combine(i, a, b, nextA, nextB));
     if (missed != 0) [[unlikely]]
-      carryOn(i, static_cast<unsigned int>(missed));
+      carryOn(i, missed);
+  }
+  /// Bytes i to i + 31 of numbers that go on behind them.
+  void twoSteps(int i, const unsigned char* a, const unsigned char* b) {
+    const __m128i first = combine(i, load(a), load(b), load(a + 1), load(b + 1));
+    const __m128i second = combine(i + 16, load(a + 16), load(b + 16), load(a + 17), load(b + 17));
+    if (_mm_movemask_epi8(_mm_or_si128(first, second)) != 0) [[unlikely]]
+      carryOn(i, _mm_movemask_epi8(first) | _mm_movemask_epi8(second) << 16);
   }
   bool carry() const { return carried; }  ///< beyond the first byte, of those added later
 
  private:
-  void carryOn(int i, unsigned int missed) {
-    for (; missed != 0; missed &= missed - 1) carryInto(i + std::countr_zero(missed) - 1);
+  /// High bits are set where a carry was missed.
+  __m128i combine(int i, __m128i a, __m128i b, __m128i nextA, __m128i nextB) {
+    const __m128i in = Operation::carries(nextA, nextB);
+    const __m128i sum = Operation::settle(Operation::apply(Operation::raw(a, b), in));
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(out + i), sum);
+    return Operation::missed(sum, in);
+  }
+  void carryOn(int i, int missed) {
+    for (auto bits = static_cast<unsigned int>(missed); bits != 0; bits &= bits - 1) {
+      carryInto(i + std::countr_zero(bits) - 1);
+    }
   }
   void carryInto(int i) {
     for (; i >= 0 && out[i] == Operation::last; --i) out[i] = 99 - Operation::last;
@@ -94,8 +107,10 @@ bool combine(unsigned char* out, Digits a, Digits b) {
   const int last = std::min(endOfA, endOfB) - 16;
   Chain<Operation> chain(out);
   int i = 0;
-  for (; i < last; i += 16) {
+  for (; i < last - 16; i += 32) chain.twoSteps(i, a.data + i, b.data + i);
+  if (i < last) {
     chain.step(i, load(a.data + i), load(b.data + i), load(a.data + i + 1), load(b.data + i + 1));
+    i += 16;
   }
   const __m128i zero = _mm_setzero_si128();
   __m128i lastA = load(a.data + i);
