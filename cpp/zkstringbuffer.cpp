@@ -67,7 +67,7 @@ void zkstringbuffer::grow(unsigned int extra) {
 }
 
 zkstringbuffer& zkstringbuffer::appendGrowing(const char* bytes, unsigned int length) {
-  const zkstring keep = holds(bytes) ? zkstring(*this) : EMPTY;  // the bytes may lie in the block that growth leaves
+  if (holds(bytes)) return append(zkstring(bytes, length));  // growth moves what it is to append
   grow(length);
   return append(bytes, length);
 }
