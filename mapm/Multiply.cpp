@@ -140,8 +140,7 @@ void multiplyOneWord(M_APM_struct* result, Word a, Word b, long long exponent, i
 /// how often: 0 or 1. In the rare case that only the lower words could decide it leaves the zero alone.
 int scaleToFront(Word first, Word* b, int nb) {
   constexpr DoubleWord limit = DoubleWord{base / 10} * base;
-  const Word second = b[nb - 1];
-  if (DoubleWord{first} * second + first + second + 1 > limit) return 0;
+  if (DoubleWord{first + 1} * (b[nb - 1] + 1) > limit) return 0;
   for (int i = 0; i < nb; ++i) b[i] *= 10;  // ten times the base is far from a word's end
   return 1;
 }
@@ -160,6 +159,23 @@ void multiplySame(M_APM_struct* result, const M_APM_struct* a, const M_APM_struc
 #pragma GCC unroll 16
   for (int i = 0; i < n; ++i) storeWords(data + 16 * i, product[2 * (n - i) - 1], product[2 * (n - i) - 2]);
   normalise(result, 16 * n, exponent, sign);
+}
+/// The product of numbers of any length.
+[[gnu::noinline]] void multiplyAny(M_APM_struct* result, const M_APM_struct* a, const M_APM_struct* b,
+                                   long long exponent, int sign) {
+  if (static_cast<long long>(a->dataLength) + b->dataLength > M_APM_MAX_DIGITS) {
+    return refuse(result, "'m_apm_multiply', Result too long");
+  }
+  const int na = wordCount(a);
+  const int nb = wordCount(b);
+  Words words(2 * (na + nb));
+  Word* const second = words + na;
+  Word* const product = second + nb;
+  toWords(words, a, na);
+  toWords(second, b, nb);
+  const int scaled = na < karatsubaFrom && nb < karatsubaFrom ? scaleToFront(words[na - 1], second, nb) : 0;
+  multiplyWords(product, words, na, second, nb);
+  fromWords(result, product, na + nb, exponent - scaled, sign);
 }
 }  // namespace
 
@@ -182,19 +198,9 @@ void m_apm_multiply(M_APM_struct* result, const M_APM_struct* a, const M_APM_str
   if (a->dataLength <= wordDigits && b->dataLength <= wordDigits) {
     return multiplyOneWord(result, wordOf(loadLow(a->data)), wordOf(loadLow(b->data)), exponent, sign);
   }
-  if (static_cast<long long>(a->dataLength) + b->dataLength > M_APM_MAX_DIGITS) {
-    return refuse(result, "'m_apm_multiply', Result too long");
-  }
   const int na = wordCount(a);
   const int nb = wordCount(b);
   if (na == nb && na == 2) return multiplySame<2>(result, a, b, exponent, sign);
   if (na == nb && na == 7) return multiplySame<7>(result, a, b, exponent, sign);  // 97 to 112 digits
-  Words words(2 * (na + nb));
-  Word* const second = words + na;
-  Word* const product = second + nb;
-  toWords(words, a, na);
-  toWords(second, b, nb);
-  const int scaled = na < karatsubaFrom && nb < karatsubaFrom ? scaleToFront(words[na - 1], second, nb) : 0;
-  multiplyWords(product, words, na, second, nb);
-  fromWords(result, product, na + nb, exponent - scaled, sign);
+  multiplyAny(result, a, b, exponent, sign);
 }
