@@ -56,6 +56,7 @@ class Identifier : public MessageIdentifier {
 class SilentFormat : public IInputFormat {
  public:
   void processInput(InputSource& source, TransformContext& /*context*/) override { benchmark::DoNotOptimize(&source); }
+  DataObject* handleInput(InputSource& /*source*/, TransformContext& /*context*/) override { return nullptr; }
 };
 
 MessageRouter& router() {
