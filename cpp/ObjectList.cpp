@@ -1,5 +1,7 @@
 #include "ObjectList.h"
 
+#include <utility>
+
 #include "BigDecimal.h"
 #include "BigInteger.h"
 #include "Binary.h"
@@ -21,7 +23,8 @@ void ObjectListRef::add(const Object& object) {
 }
 
 void ObjectListRef::clear() {
-  for (unsigned int i = 0; i < objects.size(); ++i) ObjectRef::releaseRef(objects.at(i));
+  // An element is out of the list before it is let go: its end may look at the list, or throw.
+  for (unsigned int i = 0; i < objects.size(); ++i) ObjectRef::releaseRef(std::exchange(objects.at(i), nullptr));
   objects.clear();
 }
 

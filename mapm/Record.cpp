@@ -39,10 +39,9 @@ struct Drain {
   }
 };
 
-Block* newBlock() {
-  [[maybe_unused]] static thread_local const Drain drain;
-  return static_cast<Block*>(zarvik::mapm::allocate(sizeof(Block), "'m_apm_init', Out of memory"));
-}
+void drainAtThreadEnd() { [[maybe_unused]] static thread_local const Drain drain; }
+
+Block* newBlock() { return static_cast<Block*>(zarvik::mapm::allocate(sizeof(Block), "'m_apm_init', Out of memory")); }
 
 Block* pooledBlock() {
   Block* const block = pool;
@@ -73,6 +72,7 @@ void m_apm_free(M_APM_struct* number) {
   if (!isSmall(number)) ::operator delete(number->data);
   Block* const block = reinterpret_cast<Block*>(number);
   if (pooled >= poolLimit) return ::operator delete(block);
+  if (pool == nullptr) drainAtThreadEnd();  // here, since a thread may free what another one made
   number->data = reinterpret_cast<unsigned char*>(pool);
   pool = block;
   ++pooled;

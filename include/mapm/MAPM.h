@@ -46,7 +46,8 @@ void m_apm_divide(M_APM_struct* result, int places, const M_APM_struct* a, const
 void m_apm_reciprocal(M_APM_struct* result, int places, const M_APM_struct* a);  ///< 1/a, rounded to `places` digits
 void m_apm_integer_divide(M_APM_struct* result, const M_APM_struct* a, const M_APM_struct* b);  ///< toward zero
 
-/// Keeps `places` + 1 significant digits, half away from zero; negative places give zero.
+/// Keeps `places` + 1 significant digits, half away from zero: with -1 the power of ten above from a first digit of 5
+/// on, and otherwise, as with less, zero.
 void m_apm_round(M_APM_struct* result, int places, const M_APM_struct* a);
 int m_apm_compare(const M_APM_struct* a, const M_APM_struct* b);  ///< -1, 0 or 1
 bool m_apm_is_integer(const M_APM_struct* a);
