@@ -1,7 +1,9 @@
 #include "mapm/MAPM.h"
 
 #include <cstdlib>
+#include <cstring>
 #include <string>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -33,37 +35,17 @@ class Number : public MAPM {  // opens the record
   using MAPM::val;
 };
 
-struct Text {
-  const char* text;
-  const char* value;
-};
-
 TEST(MAPM, readsTexts) {
-  constexpr Text rows[] = {
-      {" \t+12.50", "1.25E+1"},
-      {"-007", "-7.0E+0"},
-      {"0.1", "1.0E-1"},
-      {"100", "1.0E+2"},
-      {".5", "5.0E-1"},
-      {"5.", "5.0E+0"},
-      {"000.00012", "1.2E-4"},
-      {"1E3", "1.0E+3"},
-      {"1.5e-3zz", "1.5E-3"},
-      {"1e", "1.0E+0"},
-      {"2e +3", "2.0E+3"},
-      {"", "0.0E+0"},
-      {".", "0.0E+0"},
-      {"-", "0.0E+0"},
-      {"e5", "0.0E+0"},
-      {"-0.000", "0.0E+0"},
-      {"0e99999999999", "0.0E+0"},
-      {"123456789.123456789e1", "1.23456789123456789E+9"},
-      {"0000000000.0000000012345678", "1.2345678E-9"},
-      {"1e2147483646", "1.0E+2147483646"},
+  const auto reads = [](const char* text, const char* value) {
+    EXPECT_EQ(warningOf([&] { EXPECT_EQ(general(MAPM(text)), value) << text; }), "") << text;
   };
-  for (const Text& row : rows) {
-    EXPECT_EQ(warningOf([&] { EXPECT_EQ(general(MAPM(row.text)), row.value) << row.text; }), "") << row.text;
-  }
+  for (const char* text : {"", ".", "-", "e5", "-0.000", "0e99999999999"}) reads(text, "0.0E+0");
+  for (const char* text : {" \t+12.50", "12.5", "0012.5e", "125e-1zz", ".125E2", "1250.e -2"}) reads(text, "1.25E+1");
+  reads("-007", "-7.0E+0");
+  reads("000.00012", "1.2E-4");
+  reads("123456789.123456789e1", "1.23456789123456789E+9");
+  reads("0000000000.0000000012345678", "1.2345678E-9");
+  reads("1e2147483646", "1.0E+2147483646");
 }
 
 TEST(MAPM, warnsOfTextsThatAreNoNumbers) {
@@ -88,26 +70,24 @@ TEST(MAPM, writesFixedPointTexts) {
   constexpr Row rows[] = {
       {"1234567.891", 2, "1234567.89", "1'234'567,89"},
       {"1234567.891", -1, "1234567.891", "1'234'567,891"},
+      {"1e12", 1, "1000000000000.0", "1'000'000'000'000,0"},
       {"999.995", 2, "1000.00", "1'000,00"},
       {"-0.004", 2, "0.00", "0,00"},
       {"-0.005", 2, "-0.01", "-0,01"},
       {"-0.5", 0, "-1", "-1"},
-      {"0.49", 0, "0", "0"},
       {"120", -1, "120.0", "120,0"},
       {"0", -1, "0.0", "0,0"},
-      {"0", 3, "0.000", "0,000"},
       {"0.00012", 3, "0.000", "0,000"},
       {"0.00012", 8, "0.00012000", "0,00012000"},
       {"123456", 0, "123456", "123'456"},
       {"-123", 1, "-123.0", "-123,0"},
-      {"1e12", 1, "1000000000000.0", "1'000'000'000'000,0"},
   };
   for (const Row& row : rows) {
     const MAPM value(row.value);
     char text[100];
     value.toFixPtString(text, row.places);
     EXPECT_STREQ(text, row.text) << row.value;
-    EXPECT_LE(static_cast<long long>(std::string(text).size()), value.fixPtLength(row.places));
+    EXPECT_LE(static_cast<long long>(std::strlen(text)), value.fixPtLength(row.places));
     char* const grouped = value.toFixPtStringExp(row.places, ',', '\'', 3);
     EXPECT_STREQ(grouped, row.grouped) << row.value;
     std::free(grouped);
@@ -118,24 +98,23 @@ TEST(MAPM, writesScientificAndIntegerTexts) {
   struct Row {
     const char* value;
     int places;
-    const char* scientific;
-    const char* integer;
+    const char* texts;
     long whole;
   };
   constexpr Row rows[] = {
-      {"0", 2, "0.00E+0", "0", 0},
-      {"-1234.56", 2, "-1.23E+3", "-1234", -1234},
-      {"9.996", 2, "1.00E+1", "9", 9},
-      {"-0.9", 0, "-9E-1", "0", 0},
-      {"1200", 4, "1.2000E+3", "1200", 1200},
-      {"9223372036854775808", -1, "9.223372036854775808E+18", "9223372036854775808", 9223372036854775807},
+      {"0", 2, "0.00E+0 0", 0},
+      {"-1234.56", 2, "-1.23E+3 -1234", -1234},
+      {"9.996", 2, "1.00E+1 9", 9},
+      {"-0.9", 0, "-9E-1 0", 0},
+      {"1200", 4, "1.2000E+3 1200", 1200},
+      {"9223372036854775808", -1, "9.223372036854775808E+18 9223372036854775808", 9223372036854775807},
   };
   for (const Row& row : rows) {
-    char text[100];
-    MAPM(row.value).toString(text, row.places);
-    EXPECT_STREQ(text, row.scientific);
-    MAPM(row.value).toIntegerString(text);
-    EXPECT_STREQ(text, row.integer);
+    char scientific[100];
+    char integer[100];
+    MAPM(row.value).toString(scientific, row.places);
+    MAPM(row.value).toIntegerString(integer);
+    EXPECT_EQ(std::string(scientific) + " " + integer, row.texts);
     EXPECT_EQ(MAPM(row.value).toLong(), row.whole);
     EXPECT_EQ(MAPM(row.value).toDouble(), std::strtod(row.value, nullptr));
   }
@@ -176,25 +155,10 @@ TEST(MAPM, warnsInItsWords) {
 }
 
 TEST(MAPM, roundsHalfAwayFromZero) {
-  struct Row {
-    const char* value;
-    int places;
-    const char* rounded;
-  };
-  constexpr Row rows[] = {{"1234", 0, "1.0E+3"},    {"-1500", 0, "-2.0E+3"},   {"9995", 2, "1.0E+4"},
-                          {"2.5", 0, "3.0E+0"},     {"-0.0449", 1, "-4.5E-2"}, {"7", -1, "1.0E+1"},
-                          {"4", -1, "0.0E+0"},      {"9", -2, "0.0E+0"},       {"12.34", 9, "1.234E+1"},
-                          {"99999", 4, "9.9999E+4"}};
-  for (const Row& row : rows) EXPECT_EQ(general(MAPM(row.value).round(row.places)), row.rounded) << row.value;
-}
-
-TEST(MAPM, longDivisionCutsAndTheReciprocalRounds) {
-  EXPECT_EQ(general(MAPM(2).divide(MAPM(3), 5)), "6.6666E-1");
-  EXPECT_EQ(general(MAPM(2000).divide(MAPM(3), 5)), "6.6666666E+2");
-  const std::string shorter = general(MAPM(2).divide(MAPM(3), 249));
-  const std::string longer = general(MAPM(2).divide(MAPM(3), 250));
-  EXPECT_EQ(longer, "6." + std::string(248, '6') + "7E-1");
-  EXPECT_EQ(shorter, "6." + std::string(248, '6') + "E-1");
+  const auto rounded = [](const char* text, int places) { return general(MAPM(text).round(places)); };
+  EXPECT_EQ(rounded("1234", 0) + " " + rounded("-1500", 0) + " " + rounded("2.5", 0), "1.0E+3 -2.0E+3 3.0E+0");
+  EXPECT_EQ(rounded("9995", 2) + " " + rounded("-0.0449", 1) + " " + rounded("12.34", 9), "1.0E+4 -4.5E-2 1.234E+1");
+  EXPECT_EQ(rounded("7", -1) + " " + rounded("4", -1) + " " + rounded("9", -2), "1.0E+1 0.0E+0 0.0E+0");
 }
 
 TEST(MAPM, writingLeavesOtherHandlesAlone) {
@@ -225,15 +189,15 @@ TEST(MAPM, movesTouchNoCountAndLeaveZero) {
 }
 
 TEST(MAPM, parityLooksAtTheUnits) {
-  struct Row {
-    const char* value;
-    int even;
-    int odd;
-  };
-  for (const Row& row : {Row{"0", 1, 0}, Row{"12", 1, 0}, Row{"123", 0, 1}, Row{"-30", 1, 0}, Row{"1e9", 1, 0}}) {
-    EXPECT_EQ(MAPM(row.value).is_even(), row.even) << row.value;
-    EXPECT_EQ(MAPM(row.value).is_odd(), row.odd) << row.value;
-  }
+  for (const char* even : {"0", "12", "-30", "1e9"}) EXPECT_TRUE(MAPM(even).is_even() && !MAPM(even).is_odd()) << even;
+  EXPECT_TRUE(MAPM("123").is_odd() && !MAPM("123").is_even());
+}
+
+/// The records go to the pool of a thread that made none; the sanitizer looks at what becomes of them.
+TEST(MAPM, numbersMayEndInAnotherThread) {
+  std::vector<MAPM> numbers;
+  for (int i = 1; i < 9; ++i) numbers.emplace_back(i);
+  std::thread([taken = std::move(numbers)]() mutable { taken.clear(); }).join();
 }
 
 TEST(MAPM, arithmeticOnShortNumbersDoesNotAllocate) {
