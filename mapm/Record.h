@@ -55,10 +55,8 @@ inline void setZero(M_APM_struct* number) {
 /// Warns, and makes the number zero: the way out for what the kernel cannot represent.
 void refuse(M_APM_struct* number, const char* warning);
 
-/// Zeros from byte `bytes` to the next multiple of 16.
-inline void pad(unsigned char* data, int bytes) {
-  std::memset(data + bytes, 0, static_cast<std::size_t>(paddedBytes(bytes) - bytes));
-}
+/// Zeros from byte `bytes` to the next multiple of 16, and on into the spare bytes: a fixed count needs no call.
+inline void pad(unsigned char* data, int bytes) { std::memset(data + bytes, 0, 16); }
 
 void settleLeadingZeros(M_APM_struct* number, int bytes, long long exponent, int sign);  // for `normalise`
 void refuseExponent(M_APM_struct* number);                                               // for `normalise`
