@@ -13,6 +13,7 @@
 #include "KelvaraTypes.h"
 #include "StringInputSource.h"
 #include "ThrowFrom.h"
+#include "date/DateStr.h"
 
 namespace zarvik {
 namespace {
@@ -141,15 +142,14 @@ DateTime Parsing::parseDate(const zkstring& text, const zkstring& pattern) {
 zkstring Parsing::formatDate(const DateTime& date, const zkstring& pattern) { return date.toString(pattern); }
 
 void Parsing::formatDate(const DateTime& date, const zkstring& pattern, zkstring& out) {
-  constexpr int room = 256;
-  constexpr unsigned int longestUnit = 11;  // what one letter prints at most: any `int`
-  if (pattern.length() > room / longestUnit) {
+  constexpr unsigned int room = 256;
+  if (pattern.length() > room / DateStr::WIDEST_CHARACTER) {
     out = date.toString(pattern);
     return;
   }
   const zkstring kept = pattern;  // `out` may be the pattern itself
   char* const text = out.getBuffer(room);
-  out.setBufferLength(static_cast<int>(date.asString(text, room - 1, kept.c_str())));
+  out.setBufferLength(static_cast<int>(DateStr::print(text, date, {kept.data(), kept.length()}) - text));
 }
 
 zkstring Parsing::intToString(int value) { return zarvik::intToString(value); }
