@@ -64,7 +64,7 @@ template <int n>
 void multiplyFixed(Word* out, const Word* a, const Word* b) {
   Word carry = 0;
 #pragma GCC unroll 16
-  for (int k = 0; k < 2 * n - 1; ++k) carry = carryOn(fixedColumn<n>(a, b, k), carry, out[k]);
+  for (int k = 0; k < 2 * n - 1; ++k) carry = divideByBase(fixedColumn<n>(a, b, k) + carry, out[k]);
   out[2 * n - 1] = carry;
 }
 
