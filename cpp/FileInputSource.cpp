@@ -22,7 +22,8 @@ long sizeOf(std::FILE* file) {
 }  // namespace
 
 FileInputSource::FileInputSource(const zkstring& path) {
-  const File file(std::fopen(path.c_str(), "rb"), &std::fclose);
+  const zkstring terminated(path.data(), path.length());  // a slice of a constant text has no end of its own
+  const File file(std::fopen(terminated.c_str(), "rb"), &std::fclose);
   const long size = file != nullptr ? sizeOf(file.get()) : -1;
   // A directory opens too; its size is no number of bytes.
   if (size < 0 || size >= std::numeric_limits<int>::max()) {
