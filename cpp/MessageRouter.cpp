@@ -107,13 +107,13 @@ void MessageRouter::processMessage(InputSource& source) const {
 /// The instance kept for `name`, made by the registry for the first message of that name.
 IInputFormat& MessageRouter::resolveInputFormat(const zkstring& name) const {
   if (currentInputFormat.isNull() || name != currentInputFormatName) {
-    const auto kept = inputFormatCache.find(name);
-    currentInputFormat = kept != inputFormatCache.end() ? kept->second.get() : nullptr;
-    if (currentInputFormat.isNull()) {
-      currentInputFormat = lookupContext->lookupInputFormat(name);
-      inputFormatCache[name] = currentInputFormat;
+    currentInputFormat = nullptr;  // and so it stays when the look-up fails
+    auto kept = inputFormatCache.find(name);
+    if (kept == inputFormatCache.end()) {
+      kept = inputFormatCache.emplace(name, lookupContext->lookupInputFormat(name)).first;
     }
     currentInputFormatName = name;
+    currentInputFormat = kept->second;
   }
   return *currentInputFormat;
 }
