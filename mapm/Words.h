@@ -33,7 +33,7 @@ class WordBuffer {
     return static_cast<Word*>(allocate(bytes, "'m_apm_words', Out of memory"));
   }
 
-  Word small[N];
+  alignas(DoubleWord) Word small[N];  // the columns of products lie here, too
   Word* const words;
 };
 using Words = WordBuffer<40>;
