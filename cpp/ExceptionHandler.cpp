@@ -25,7 +25,8 @@ void DraconianExceptionHandler::onException(ExceptionDataObject* exception) {
   if (const auto* const error = dynamic_cast<const TransformException*>(&data)) {
     throwFrom(here, TransformException(*error));
   }
-  throwFrom(here, TransformException(data));
+  // The analyser takes a cast that fails for a pointer that is null.
+  throwFrom(here, TransformException(data));  // NOLINT(clang-analyzer-core.NonNullParamChecker)
 }
 
 void CascadingExceptionHandler::onException(ExceptionDataObject* exception) {

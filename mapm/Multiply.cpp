@@ -69,8 +69,9 @@ void multiplyFixed(Word* out, const Word* a, const Word* b) {
 }
 
 /// The columns of a * b, both of n words, without carries: 2n - 1 of them. By three products of halves (Karatsuba);
-/// the sums of halves need no carries either, since words have room above the base. `scratch` has 4n places.
-void karatsuba(DoubleWord* out, const Word* a, const Word* b, int n, DoubleWord* scratch) {
+/// the sums of halves need no carries either, since words have room above the base. `sums` and `scratch` have 4n
+/// places.
+void karatsuba(DoubleWord* out, const Word* a, const Word* b, int n, Word* sums, DoubleWord* scratch) {
   if (n == 16) {
 #pragma GCC unroll 32
     for (int k = 0; k < 31; ++k) out[k] = fixedColumn<16>(a, b, k);
@@ -85,17 +86,18 @@ void karatsuba(DoubleWord* out, const Word* a, const Word* b, int n, DoubleWord*
   }
   const int low = (n + 1) / 2;
   const int high = n - low;
-  Word* const sumA = reinterpret_cast<Word*>(scratch);
+  Word* const sumA = sums;
   Word* const sumB = sumA + low;
   for (int i = 0; i < low; ++i) {
     sumA[i] = a[i] + (i < high ? a[low + i] : 0);
     sumB[i] = b[i] + (i < high ? b[low + i] : 0);
   }
-  DoubleWord* const middle = scratch + low;
-  DoubleWord* const rest = middle + 2 * low;
-  karatsuba(middle, sumA, sumB, low, rest);
-  karatsuba(out, a, b, low, rest);
-  karatsuba(out + 2 * low, a + low, b + low, high, rest);
+  DoubleWord* const middle = scratch;
+  Word* const moreSums = sumB + low;
+  DoubleWord* const moreScratch = middle + 2 * low;
+  karatsuba(middle, sumA, sumB, low, moreSums, moreScratch);
+  karatsuba(out, a, b, low, moreSums, moreScratch);
+  karatsuba(out + 2 * low, a + low, b + low, high, moreSums, moreScratch);
   out[2 * low - 1] = 0;
   for (int i = 0; i < 2 * low - 1; ++i) middle[i] -= out[i];
   for (int i = 0; i < 2 * high - 1; ++i) middle[i] -= out[2 * low + i];
@@ -104,11 +106,11 @@ void karatsuba(DoubleWord* out, const Word* a, const Word* b, int n, DoubleWord*
 
 /// For operands of about the same length: the shorter one is filled up.
 void multiplyByKaratsuba(Word* out, const Word* a, int na, const Word* b, int nb) {
-  WordBuffer<1024> room(13 * na);
-  Word* const filled = room + 12 * na;
-  std::fill(std::copy_n(b, nb, filled), filled + na, Word{0});
-  DoubleWord* const columns = reinterpret_cast<DoubleWord*>(static_cast<Word*>(room));
-  karatsuba(columns, a, filled, na, columns + 2 * na);
+  // Each level of halves takes 2 * low of either scratch; all levels together stay well below 4 * na.
+  WordBuffer<400> filled(5 * na);
+  Buffer<DoubleWord, 480> columns(6 * na);
+  std::fill(std::copy_n(b, nb, static_cast<Word*>(filled)), filled + na, Word{0});
+  karatsuba(columns, a, filled, na, filled + na, columns + 2 * na);
   carryColumns(out, columns, na + nb);
 }
 
@@ -136,6 +138,7 @@ void multiplyOneWord(M_APM_struct* result, Word a, Word b, long long exponent, i
   storeWords(makeRoom(result, 16), high, low);
   normalise(result, 16, exponent, sign);
 }
+
 /// Takes one operand ten times where the product would begin with a 0: moving all its digits later costs more. Tells
 /// how often: 0 or 1. In the rare case that only the lower words could decide it leaves the zero alone.
 int scaleToFront(Word first, Word* b, int nb) {
@@ -153,13 +156,14 @@ void multiplySame(M_APM_struct* result, const M_APM_struct* a, const M_APM_struc
   Word product[2 * n];
   toWords(first, a, n);
   toWords(second, b, n);
-  exponent -= scaleToFront(first[n - 1], second, n);
+  exponent -= scaleToFront(first[n - 1], second, n);  // NOLINT(clang-analyzer-core.CallAndMessage): it is filled
   multiplyFixed<n>(product, first, second);
   unsigned char* const data = makeRoom(result, 16 * n);
 #pragma GCC unroll 16
   for (int i = 0; i < n; ++i) storeWords(data + 16 * i, product[2 * (n - i) - 1], product[2 * (n - i) - 2]);
   normalise(result, 16 * n, exponent, sign);
 }
+
 /// The product of numbers of any length.
 [[gnu::noinline]] void multiplyAny(M_APM_struct* result, const M_APM_struct* a, const M_APM_struct* b,
                                    long long exponent, int sign) {
@@ -173,7 +177,9 @@ void multiplySame(M_APM_struct* result, const M_APM_struct* a, const M_APM_struc
   Word* const product = second + nb;
   toWords(words, a, na);
   toWords(second, b, nb);
-  const int scaled = na < karatsubaFrom && nb < karatsubaFrom ? scaleToFront(words[na - 1], second, nb) : 0;
+  const bool isShort = na < karatsubaFrom && nb < karatsubaFrom;
+  // NOLINTNEXTLINE(clang-analyzer-core.CallAndMessage): the words are filled
+  const int scaled = isShort ? scaleToFront(words[na - 1], second, nb) : 0;
   multiplyWords(product, words, na, second, nb);
   fromWords(result, product, na + nb, exponent - scaled, sign);
 }

@@ -15,27 +15,29 @@ constexpr Word base = 10'000'000'000'000'000;
 
 inline int wordCount(const M_APM_struct* a) { return (byteCount(a) + 7) / 8; }
 
-/// Room for `count` words: on the stack if they are few.
-template <int N>
-class WordBuffer {
+/// Room for `count` words or double words: on the stack if they are few.
+template <class T, int N>
+class Buffer {
  public:
-  explicit WordBuffer(int count) : words(count > N ? newWords(count) : small) {}
-  ~WordBuffer() {
-    if (words != small) ::operator delete(words);
+  explicit Buffer(int count) : items(count > N ? newItems(count) : small) {}
+  ~Buffer() {
+    if (items != small) ::operator delete(items);
   }
-  WordBuffer(const WordBuffer&) = delete;
-  WordBuffer& operator=(const WordBuffer&) = delete;
-  operator Word*() { return words; }
+  Buffer(const Buffer&) = delete;
+  Buffer& operator=(const Buffer&) = delete;
+  operator T*() { return items; }
 
  private:
-  static Word* newWords(int count) {
-    const std::size_t bytes = static_cast<std::size_t>(count) * sizeof(Word);
-    return static_cast<Word*>(allocate(bytes, "'m_apm_words', Out of memory"));
+  static T* newItems(int count) {
+    const std::size_t bytes = static_cast<std::size_t>(count) * sizeof(T);
+    return static_cast<T*>(allocate(bytes, "'m_apm_words', Out of memory"));
   }
 
-  alignas(DoubleWord) Word small[N];  // the columns of products lie here, too
-  Word* const words;
+  T small[N];
+  T* const items;
 };
+template <int N>
+using WordBuffer = Buffer<Word, N>;
 using Words = WordBuffer<40>;
 
 /// Eight base-100 bytes, the first lowest in `bytes`, as one word: neighbours are joined, three times.
