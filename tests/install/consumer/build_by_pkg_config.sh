@@ -1,6 +1,6 @@
 #!/bin/sh
 # usage: build_by_pkg_config.sh PREFIX COMPILER [FLAG...]: builds the consumer against the tree below PREFIX and runs
-# it; its version record must have come along with the library.
+# it; the version record must stand in the program, or in the shared library that it loads.
 set -eu
 prefix=$1
 shift
@@ -10,5 +10,9 @@ out=$(mktemp -d)
 trap 'rm -rf "$out"' EXIT
 # shellcheck disable=SC2046 # flags are words
 "$@" "$(dirname "$0")/consumer.cpp" -o "$out/consumer" $(pkg-config --cflags --libs zarvikrt)
-grep -q 'Implementation-Title=zarvikrt' "$out/consumer" || { echo "no version record in the program"; exit 1; }
-LD_LIBRARY_PATH=$(pkg-config --variable=libdir zarvikrt) "$out/consumer"
+libdir=$(pkg-config --variable=libdir zarvikrt)
+grep -qs 'Implementation-Title=zarvikrt' "$out/consumer" "$libdir/libzarvikrt.so" || {
+  echo "no version record"
+  exit 1
+}
+LD_LIBRARY_PATH=$libdir "$out/consumer"
