@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "Living.h"
 #include "LookupContextFactory.h"
 #include "ObjectFactory.h"
 #include "Support.h"
@@ -7,13 +8,6 @@
 namespace zarvik {
 namespace {
 
-/// Counts the objects alive.
-template <class Base>
-struct Living : Base {
-  Living() { ++alive; }
-  ~Living() override { --alive; }
-  inline static int alive = 0;
-};
 struct Message : Living<IMessage> {};
 struct External : Living<IExternalMessage> {};
 struct Internal : Living<IInternalMessage> {};

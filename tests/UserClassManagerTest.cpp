@@ -3,18 +3,12 @@
 #include "CustomClassSupport.h"
 #include "IFieldProcessing.h"
 #include "IProcessing.h"
+#include "Living.h"
 #include "Support.h"
 
 namespace zarvik {
 namespace {
 
-/// Counts the objects alive.
-template <class Base>
-struct Living : Base {
-  Living() { ++alive; }
-  ~Living() override { --alive; }
-  inline static int alive = 0;
-};
 struct Processing : Living<IProcessing> {};
 struct Plain : Living<Object> {};
 
