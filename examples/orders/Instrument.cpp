@@ -1,4 +1,4 @@
-#include "Instrument.h"
+#include "orders/Instrument.h"
 
 #include "Boxing.h"
 #include "DataObjectMetaInfo.h"
@@ -8,8 +8,8 @@ using namespace zarvik;
 namespace orders {
 
 DataObjectMetaInfo* Instrument::metaInfo() {
-  static const char* const names[] = {"Symbol", "Maturity"};
-  static const char* const types[] = {"String", "DateOnly"};
+  static const char* const names[] = {"Symbol", "Maturity", "ISIN"};
+  static const char* const types[] = {"String", "DateOnly", "String"};
   static DataObjectMetaInfo info(zkstringliteral("Instrument"), names, types, FIELD_COUNT);
   return &info;
 }
@@ -20,6 +20,8 @@ Object* Instrument::getField0(int index, Object* reuse) const {
       return box(values.symbol, reuse);
     case MATURITY:
       return box(values.maturity, reuse);
+    case ISIN:
+      return box(values.isin, reuse);
     default:
       return AbstractDataObject::getField0(index, reuse);
   }
@@ -31,6 +33,8 @@ void Instrument::setField0(int index, const Object* value) {
       return unbox(value, values.symbol);
     case MATURITY:
       return unbox(value, values.maturity);
+    case ISIN:
+      return unbox(value, values.isin);
     default:
       return AbstractDataObject::setField0(index, value);
   }

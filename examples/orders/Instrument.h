@@ -8,7 +8,7 @@ namespace orders {
 /// What is traded.
 class Instrument : public zarvik::AbstractDataObject {
  public:
-  enum : int { SYMBOL, MATURITY, FIELD_COUNT };
+  enum : int { SYMBOL, MATURITY, ISIN, FIELD_COUNT };
 
   explicit Instrument(zarvik::DataObjectSection* parent = nullptr)
       : AbstractDataObject(metaInfo(), values.flags, parent) {}
@@ -22,6 +22,8 @@ class Instrument : public zarvik::AbstractDataObject {
   void setSymbol(const zarvik::zkstring& value) { setNotNull(SYMBOL), values.symbol = value; }
   const zarvik::DateTime& getMaturity() const { return ensureNotNull(MATURITY), values.maturity; }
   void setMaturity(const zarvik::DateTime& value) { setNotNull(MATURITY), values.maturity = value; }
+  const zarvik::zkstring& getISIN() const { return ensureNotNull(ISIN), values.isin; }
+  void setISIN(const zarvik::zkstring& value) { setNotNull(ISIN), values.isin = value; }
 
  protected:
   using AbstractDataObject::getField0;
@@ -33,6 +35,7 @@ class Instrument : public zarvik::AbstractDataObject {
     bool flags[FIELD_COUNT] = {};
     zarvik::zkstring symbol;
     zarvik::DateTime maturity;
+    zarvik::zkstring isin;
   };
   Values values;
 };

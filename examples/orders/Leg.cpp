@@ -1,8 +1,8 @@
-#include "Leg.h"
+#include "orders/Leg.h"
 
 #include "Boxing.h"
 #include "DataObjectMetaInfo.h"
-#include "Party.h"
+#include "orders/Party.h"
 
 using namespace zarvik;
 
@@ -40,11 +40,7 @@ DataObject* Leg::createSectionElement(const zkstring& sectionName, DataObjectSec
   }
 }
 
-Party* Leg::addParty() {
-  SmartPtr<Party> party(new Party(&parties));
-  parties.addElement(party.get());
-  return party.get();
-}
+Party* Leg::addParty() { return &parties.add(); }
 
 Object* Leg::getField0(int index, Object* reuse) const {
   switch (index) {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "AbstractDataObject.h"
-#include "DataObjectSectionImpl.h"
+#include "orders/Group.h"
 
 namespace orders {
 
@@ -26,7 +26,7 @@ class Leg : public zarvik::AbstractDataObject {
   void setSymbol(const zarvik::zkstring& value) { setNotNull(SYMBOL), values.symbol = value; }
   int getRatio() const { return ensureNotNull(RATIO), values.ratio; }
   void setRatio(int value) { setNotNull(RATIO), values.ratio = value; }
-  zarvik::DataObjectSection& getParties() { return parties; }
+  Group<Party>& getParties() { return parties; }
   Party* addParty();  ///< stays the leg's
 
  protected:
@@ -41,7 +41,7 @@ class Leg : public zarvik::AbstractDataObject {
     int ratio = 0;
   };
   Values values;
-  zarvik::DataObjectSectionImpl parties;
+  Group<Party> parties;
 };
 
 }  // namespace orders

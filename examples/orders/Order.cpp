@@ -1,25 +1,33 @@
-#include "Order.h"
+#include "orders/Order.h"
 
 #include "Boxing.h"
 #include "DataObjectMetaInfo.h"
-#include "Instrument.h"
-#include "Leg.h"
+#include "orders/Execution.h"
+#include "orders/Instrument.h"
+#include "orders/Leg.h"
+#include "orders/Party.h"
+#include "orders/Portion.h"
 
 using namespace zarvik;
 
 namespace orders {
 
 DataObjectMetaInfo* Order::metaInfo() {
-  static const char* const names[] = {"ID",     "Quantity",  "Sequence",   "Discount",    "Price",      "Side",
-                                      "Urgent", "Signature", "Account",    "Notional",    "Entered",    "TradeDate",
-                                      "CutOff", "Sent",      "Settlement", "MarketClose", "Instrument", "Legs"};
+  static const char* const names[] = {"ID",       "Quantity",  "Sequence",   "Discount",    "Price",      "Side",
+                                      "Urgent",   "Signature", "Account",    "Notional",    "Entered",    "TradeDate",
+                                      "CutOff",   "Sent",      "Settlement", "MarketClose", "Instrument", "Legs",
+                                      "Currency", "Text",      "Parties",    "Portions",    "Execution"};
   static const char* const types[] = {"String",   "Integer",     "Long",       "Float",      "Double",     "Character",
                                       "Boolean",  "Binary",      "BigInteger", "BigDecimal", "DateTime",   "DateOnly",
-                                      "TimeOnly", "ISODateTime", "ISODate",    "ISOTime",    "DataObject", "Section"};
+                                      "TimeOnly", "ISODateTime", "ISODate",    "ISOTime",    "DataObject", "Section",
+                                      "String",   "String",      "Section",    "Section",    "DataObject"};
   struct Info : DataObjectMetaInfo {
     Info() : DataObjectMetaInfo(zkstringliteral("Order"), names, types, FIELD_COUNT) {
       getSectionMetaInfo(INSTRUMENT)->init(Instrument::metaInfo(), 0, 1);
       getSectionMetaInfo(LEGS)->init(Leg::metaInfo(), 0, 10);
+      getSectionMetaInfo(PARTIES)->init(Party::metaInfo(), 0, -1);
+      getSectionMetaInfo(PORTIONS)->init(Portion::metaInfo(), 0, -1);
+      getSectionMetaInfo(EXECUTION)->init(Execution::metaInfo(), 0, 1);
     }
   };
   static Info info;
@@ -29,24 +37,36 @@ DataObjectMetaInfo* Order::metaInfo() {
 Order::Order(DataObjectSection* parent) : AbstractDataObject(metaInfo(), values.flags, parent) {
   instrument.initialize(this, *metaInfo()->getSectionMetaInfo(INSTRUMENT));
   legs.initialize(this, *metaInfo()->getSectionMetaInfo(LEGS));
-  setNotNull(INSTRUMENT);  // sections are never null, only empty
-  setNotNull(LEGS);
+  parties.initialize(this, *metaInfo()->getSectionMetaInfo(PARTIES));
+  portions.initialize(this, *metaInfo()->getSectionMetaInfo(PORTIONS));
+  execution.initialize(this, *metaInfo()->getSectionMetaInfo(EXECUTION));
+  setSectionsNotNull();
 }
 
 Order::Order(const Order& other, DataObjectSection* parent)
     : AbstractDataObject(other, values.flags, parent),
       values(other.values),
       instrument(other.instrument, this),
-      legs(other.legs, this) {
+      legs(other.legs, this),
+      parties(other.parties, this),
+      portions(other.portions, this),
+      execution(other.execution, this) {
   if (instrument.getElementCount() != 0) instrument.getElement(0)->setParentSection(&instrument);
+  if (hasExecution()) execution.getElement(0)->setParentSection(&execution);
 }
 
 void Order::reset() {
   AbstractDataObject::reset();
   instrument.clear();
   legs.clear();
-  setNotNull(INSTRUMENT);
-  setNotNull(LEGS);
+  parties.clear();
+  portions.clear();
+  execution.clear();
+  setSectionsNotNull();
+}
+
+void Order::setSectionsNotNull() {  // sections are never null, only empty
+  for (const int section : {INSTRUMENT, LEGS, PARTIES, PORTIONS, EXECUTION}) setNotNull(section);
 }
 
 DataObject* Order::createSectionElement(const zkstring& sectionName, DataObjectSection* section) const {
@@ -55,6 +75,12 @@ DataObject* Order::createSectionElement(const zkstring& sectionName, DataObjectS
       return new Instrument(section);
     case LEGS:
       return new Leg(section);
+    case PARTIES:
+      return new Party(section);
+    case PORTIONS:
+      return new Portion(section);
+    case EXECUTION:
+      return new Execution(section);
     default:
       return AbstractDataObject::createSectionElement(sectionName, section);
   }
@@ -65,11 +91,12 @@ Instrument* Order::getInstrument() {
   return static_cast<Instrument*>(instrument.getElement(0));
 }
 
-Leg* Order::addLeg() {
-  SmartPtr<Leg> leg(new Leg(&legs));
-  legs.addElement(leg.get());
-  return leg.get();
+Execution* Order::getExecution() {
+  if (!hasExecution()) execution.addElement(new Execution(&execution));
+  return static_cast<Execution*>(execution.getElement(0));
 }
+
+Leg* Order::addLeg() { return &legs.add(); }
 
 Object* Order::getField0(int index, Object* reuse) const {
   switch (index) {
@@ -109,6 +136,16 @@ Object* Order::getField0(int index, Object* reuse) const {
       return box(instrument, reuse);
     case LEGS:
       return box(legs, reuse);
+    case CURRENCY:
+      return box(values.currency, reuse);
+    case TEXT:
+      return box(values.text, reuse);
+    case PARTIES:
+      return box(parties, reuse);
+    case PORTIONS:
+      return box(portions, reuse);
+    case EXECUTION:
+      return box(execution, reuse);
     default:
       return AbstractDataObject::getField0(index, reuse);
   }
@@ -152,6 +189,16 @@ void Order::setField0(int index, const Object* value) {
       return unbox(value, instrument);
     case LEGS:
       return unbox(value, legs);
+    case CURRENCY:
+      return unbox(value, values.currency);
+    case TEXT:
+      return unbox(value, values.text);
+    case PARTIES:
+      return unbox(value, parties);
+    case PORTIONS:
+      return unbox(value, portions);
+    case EXECUTION:
+      return unbox(value, execution);
     default:
       return AbstractDataObject::setField0(index, value);
   }

@@ -6,13 +6,18 @@
 #include "Binary.h"
 #include "DataObjectSectionImpl.h"
 #include "date/DateTime.h"
+#include "orders/Group.h"
 
 namespace orders {
 
+class Execution;
 class Instrument;
 class Leg;
+class Party;
+class Portion;
 
-/// An order, with a field of every type that a value can be boxed as, a nested object and a repeating group.
+/// The order as the house knows it, whatever format it came in, and what became of it, if that is known: the normalised
+/// object of the cartridge. It has a field of every type that a value can be boxed as, nested objects and groups.
 class Order : public zarvik::AbstractDataObject {
  public:
   enum : int {
@@ -34,6 +39,11 @@ class Order : public zarvik::AbstractDataObject {
     MARKET_CLOSE,
     INSTRUMENT,
     LEGS,
+    CURRENCY,
+    TEXT,
+    PARTIES,
+    PORTIONS,
+    EXECUTION,
     FIELD_COUNT
   };
 
@@ -80,8 +90,16 @@ class Order : public zarvik::AbstractDataObject {
   const zarvik::ISODateTime& getMarketClose() const { return ensureNotNull(MARKET_CLOSE), values.marketClose; }
   void setMarketClose(const zarvik::ISODateTime& value) { setNotNull(MARKET_CLOSE), values.marketClose = value; }
   Instrument* getInstrument();  ///< stays the order's; made when it is first asked for
-  zarvik::DataObjectSection& getLegs() { return legs; }
+  Group<Leg>& getLegs() { return legs; }
   Leg* addLeg();  ///< stays the order's
+  const zarvik::zkstring& getCurrency() const { return ensureNotNull(CURRENCY), values.currency; }
+  void setCurrency(const zarvik::zkstring& value) { setNotNull(CURRENCY), values.currency = value; }
+  const zarvik::zkstring& getText() const { return ensureNotNull(TEXT), values.text; }
+  void setText(const zarvik::zkstring& value) { setNotNull(TEXT), values.text = value; }
+  Group<Party>& getParties() { return parties; }
+  Group<Portion>& getPortions() { return portions; }
+  Execution* getExecution();  ///< stays the order's; made when it is first asked for
+  bool hasExecution() const { return execution.getElementCount() != 0; }
 
  protected:
   using AbstractDataObject::getField0;
@@ -89,6 +107,8 @@ class Order : public zarvik::AbstractDataObject {
   void setField0(int index, const zarvik::Object* value) override;
 
  private:
+  void setSectionsNotNull();
+
   struct Values {
     bool flags[FIELD_COUNT] = {};
     zarvik::zkstring id;
@@ -107,10 +127,15 @@ class Order : public zarvik::AbstractDataObject {
     zarvik::ISODateTime sent;
     zarvik::ISODateTime settlement;
     zarvik::ISODateTime marketClose;
+    zarvik::zkstring currency;
+    zarvik::zkstring text;
   };
   Values values;
   zarvik::DataObjectSingleElementSectionImpl instrument;
-  zarvik::DataObjectSectionImpl legs;
+  Group<Leg> legs;
+  Group<Party> parties;
+  Group<Portion> portions;
+  zarvik::DataObjectSingleElementSectionImpl execution;
 };
 
 }  // namespace orders

@@ -1,4 +1,4 @@
-#include "Party.h"
+#include "orders/Party.h"
 
 #include "Boxing.h"
 #include "DataObjectMetaInfo.h"
@@ -8,8 +8,8 @@ using namespace zarvik;
 namespace orders {
 
 DataObjectMetaInfo* Party::metaInfo() {
-  static const char* const names[] = {"ID", "Role"};
-  static const char* const types[] = {"String", "Integer"};
+  static const char* const names[] = {"ID", "Role", "Source"};
+  static const char* const types[] = {"String", "Integer", "Character"};
   static DataObjectMetaInfo info(zkstringliteral("Party"), names, types, FIELD_COUNT);
   return &info;
 }
@@ -20,6 +20,8 @@ Object* Party::getField0(int index, Object* reuse) const {
       return box(values.id, reuse);
     case ROLE:
       return box(values.role, reuse);
+    case SOURCE:
+      return box(values.source, reuse);
     default:
       return AbstractDataObject::getField0(index, reuse);
   }
@@ -31,6 +33,8 @@ void Party::setField0(int index, const Object* value) {
       return unbox(value, values.id);
     case ROLE:
       return unbox(value, values.role);
+    case SOURCE:
+      return unbox(value, values.source);
     default:
       return AbstractDataObject::setField0(index, value);
   }

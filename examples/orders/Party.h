@@ -4,10 +4,10 @@
 
 namespace orders {
 
-/// Someone with a role in a leg of an order: the least that a record can be.
+/// Someone with a role in an order or in a leg of it: the least that a record can be.
 class Party : public zarvik::AbstractDataObject {
  public:
-  enum : int { ID, ROLE, FIELD_COUNT };
+  enum : int { ID, ROLE, SOURCE, FIELD_COUNT };
 
   explicit Party(zarvik::DataObjectSection* parent = nullptr) : AbstractDataObject(metaInfo(), values.flags, parent) {}
   Party(const Party& other, zarvik::DataObjectSection* parent)
@@ -20,6 +20,8 @@ class Party : public zarvik::AbstractDataObject {
   void setID(const zarvik::zkstring& value) { setNotNull(ID), values.id = value; }
   int getRole() const { return ensureNotNull(ROLE), values.role; }
   void setRole(int value) { setNotNull(ROLE), values.role = value; }
+  char getSource() const { return ensureNotNull(SOURCE), values.source; }  ///< whose code the ID is
+  void setSource(char value) { setNotNull(SOURCE), values.source = value; }
 
  protected:
   using AbstractDataObject::getField0;
@@ -31,6 +33,7 @@ class Party : public zarvik::AbstractDataObject {
     bool flags[FIELD_COUNT] = {};
     zarvik::zkstring id;
     int role = 0;
+    char source = 0;
   };
   Values values;
 };

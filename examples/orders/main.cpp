@@ -1,10 +1,10 @@
 // A hand-written record at work: fills an order through its typed accessors, and prints it without knowing its class.
 #include <cstdio>
 
-#include "Instrument.h"
-#include "Leg.h"
-#include "Order.h"
-#include "Party.h"
+#include "orders/Instrument.h"
+#include "orders/Leg.h"
+#include "orders/Order.h"
+#include "orders/Party.h"
 
 using namespace zarvik;
 
