@@ -9,9 +9,9 @@ namespace {
 constexpr char here[] = ".\\include\\Exceptions";  // backslashes and all: what readers of traces look for
 }  // namespace
 
-void throwClassCast(const Object* object, const Class& wanted) {
-  if (object == nullptr) throwFrom(here, ClassCastException("Cannot cast NULL to " + wanted.getName()));
-  throwFrom(here, ClassCastException("Cannot cast " + Class(typeid(*object)).getName() + "* to " + wanted.getName()));
+void throwClassCast(const std::type_info* found, const Class& wanted) {
+  if (found == nullptr) throwFrom(here, ClassCastException("Cannot cast NULL to " + wanted.getName()));
+  throwFrom(here, ClassCastException("Cannot cast " + Class(*found).getName() + "* to " + wanted.getName()));
 }
 
 }  // namespace zarvik

@@ -1,11 +1,20 @@
 #include "LookupContextFactory.h"
 
 #include "LookupContextImpl.h"
+#include "ObjectFactory.h"
+#include "SimpleXMLOutputFormat.h"
 
 namespace zarvik {
+namespace {
+
+constinit const zkstringliteral xmlFormatName("NOXMLOut");
+}  // namespace
 
 LookupContextFactory& LookupContextFactory::getLookupContextFactory() {
   static LookupContextFactory factory;
+  static bool used = false;
+  if (!std::exchange(used, true))
+    LookupContextImpl().bind(xmlFormatName, new GenericObjectFactory<SimpleXMLOutputFormat>);
   return factory;
 }
 

@@ -1,6 +1,7 @@
 #include "TransformContext.h"
 
 #include "Exceptions.h"
+#include "IOutputContextImpl.h"
 #include "ThrowFrom.h"
 
 namespace zarvik {

@@ -93,6 +93,7 @@ class TransformContextWrapper : public TransformContext {
   constexpr TransformContextWrapper(TransformContext* context) : transformContext(context) {}  ///< not null
 
   TransformContext* getTransformContext() { return transformContext; }
+  void setTransformContext(TransformContext* context) { transformContext = context; }  ///< not null, nor the wrapper
 
   void setProperty(const zkstring& name, const zkstring& value) override;
   zkstring getProperty(const zkstring& name) override;

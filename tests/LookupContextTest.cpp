@@ -1,8 +1,10 @@
 #include <algorithm>
 
+#include "ContextOutputProtocol.h"
 #include "Living.h"
 #include "LookupContextFactory.h"
 #include "ObjectFactory.h"
+#include "SimpleXMLOutputFormat.h"
 #include "Support.h"
 
 namespace zarvik {
@@ -13,10 +15,15 @@ struct External : Living<IExternalMessage> {};
 struct Internal : Living<IInternalMessage> {};
 struct Mapping : Living<IMessageMapping> {};
 struct Flow : Living<IMessageFlow> {};
-struct Output : Living<IOutputFormat> {};
-struct ObjectMapping : Living<INormalizedObjectMappingFormat> {};
+struct Output : Living<SimpleXMLOutputFormat> {};
+struct ObjectMapping : Living<INormalizedObjectMappingFormat> {
+  DataObject** map(DataObject**, int, TransformContext&) override { return nullptr; }
+  DataObject* map(DataObject*, TransformContext&) override { return nullptr; }
+  zkstring getDestinationMessageName() override { return {}; }
+  zkstring getSourceMessageName() override { return {}; }
+};
 struct Plain : Living<Object> {};
-struct Protocol : Living<IOutputProtocol> {};
+struct Protocol : Living<ContextOutputProtocol> {};
 
 constexpr const char* names[] = {"external", "flow",    "internal", "mapping", "message",  "nothing",
                                  "null",     "objects", "output",   "plain",   "protocol", "nulls"};
