@@ -1,6 +1,8 @@
 #include "Resources.h"
 
 #include <cstdint>
+#include <fstream>
+#include <set>
 
 #include "PropertyResourceBundle.h"
 #include "Support.h"
@@ -34,6 +36,28 @@ TEST(Resources, holdsTheTwoCatalogues) {
   // Counted and hashed from the published tables, outside this code.
   EXPECT_EQ(fingerprint("RuntimeResources", "SRT"), std::pair(2 * 122, std::uint64_t{0xb347dc25762dec42}));
   EXPECT_EQ(fingerprint("UniversalResources", "UNV"), std::pair(2 * 32, std::uint64_t{0xee3893a74b7e8bfc}));
+}
+
+/// The rows of the tables of codes in docs/errors.md.
+std::set<std::string> documentedCodes() {
+  std::ifstream page(ZARVIKRT_ERRORS_PAGE);
+  std::set<std::string> rows;
+  for (std::string line; std::getline(page, line);) {
+    if (line.starts_with("| SRT") || line.starts_with("| UNV")) rows.insert(line);
+  }
+  return rows;
+}
+
+TEST(Resources, areAsThePageOfErrorsListsThem) {
+  const std::set<std::string> rows = documentedCodes();
+  EXPECT_EQ(rows.size(), 122u + 32u);
+  for (const std::string& row : rows) {
+    const std::string entry = row.substr(2, 6);
+    const auto value = [&entry](const char* ending) -> std::string {
+      return Resources::getProperty((entry + ending).c_str()).c_str();
+    };
+    EXPECT_EQ(row, "| " + entry + " | " + value(".code") + " | `" + value(".message") + "` |");
+  }
 }
 
 TEST(Resources, looksInAllBundlesOrInOne) {
