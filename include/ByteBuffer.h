@@ -75,6 +75,14 @@ class ByteBuffer {
     if (n < 0 || n >= used - position) throwOutOfBounds();
     return reinterpret_cast<signed char*>(bytes + std::exchange(position, position + n));
   }
+  /// As `getCursor`, but up to the last byte.
+  const char* take(unsigned int n) {
+    require(n);
+    return bytes + std::exchange(position, position + static_cast<int>(n));
+  }
+  void require(unsigned int n) const {  ///< throws unless there are `n` more bytes to read
+    if (__int64{n} > used - position) throwOutOfBounds();
+  }
   bool hasMore() const { return position < used; }
   int getPosition() const { return position; }       ///< of the next byte to read
   int available() const { return used - position; }  ///< bytes not yet read

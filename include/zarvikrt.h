@@ -23,6 +23,7 @@
 #include "CustomClassSupport.h"
 #include "DataObject.h"
 #include "DataObjectBase.h"
+#include "DataObjectIO.h"
 #include "DataObjectMetaInfo.h"
 #include "DataObjectSection.h"
 #include "DataObjectSectionImpl.h"
