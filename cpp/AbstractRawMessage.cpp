@@ -43,16 +43,14 @@ AbstractRawMessage::AbstractRawMessage(const AbstractRawMessage& other)
 AbstractRawMessage::~AbstractRawMessage() = default;
 
 float AbstractRawMessage::getFloatProperty(const zkstring& propertyName, float defaultValue) {
-  return readMap().getFloatProperty(propertyName, defaultValue);
+  return store().getFloatProperty(propertyName, defaultValue);
 }
 
 void AbstractRawMessage::setFloatProperty(const zkstring& propertyName, float value) {
-  writeMap().setFloatProperty(propertyName, value);
+  store().setFloatProperty(propertyName, value);
 }
 
-StringList AbstractRawMessage::getPropertyNames(PropertyNameFilter& filter) {
-  return readMap().getPropertyNames(filter);
-}
+StringList AbstractRawMessage::getPropertyNames(PropertyNameFilter& filter) { return store().getPropertyNames(filter); }
 
 zkstring AbstractRawMessage::getAsString(const zkstring& /*encodingName*/) {
   int length = 0;
@@ -111,8 +109,10 @@ zkstring AbstractRawMessage::toString() const {
 
 zkstring AbstractRawMessage::dump() {
   zkstringbuffer text;
-  for (const zkstring& propertyName : getPropertyNames()) {
-    text.append(propertyName).append(':').append(getProperty(propertyName)->toString()).append('\n');
+  if (!properties.isNull()) {
+    for (const zkstring& propertyName : properties->getPropertyNames()) {
+      text.append(propertyName).append(':').append(properties->getProperty(propertyName)->toString()).append('\n');
+    }
   }
   text.append(getAsString());
   if (attachments.isNull()) return text;
@@ -124,12 +124,7 @@ zkstring AbstractRawMessage::dump() {
   return text;
 }
 
-IPropertyMap& AbstractRawMessage::readMap() {
-  static const SmartPtr<IPropertyMap> none(new PropertyMapImpl);  // stays empty, so all threads may share it
-  return properties.isNull() ? *none : *properties;
-}
-
-IPropertyMap& AbstractRawMessage::writeMap() {
+IPropertyMap& AbstractRawMessage::store() {
   if (properties.isNull()) properties = new PropertyMapImpl;
   return *properties;
 }

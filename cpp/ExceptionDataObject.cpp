@@ -3,22 +3,14 @@
 #include <algorithm>
 #include <iterator>
 
+#include "Boxing.h"
 #include "Conversion.h"
 #include "DataObjectMetaInfo.h"
 #include "DataObjectXML.h"
 #include "Parsing.h"
-#include "WrapperObjects.h"
 
 namespace zarvik {
 namespace {
-
-/// `reuse` with the value put in by `set`, or without one a new box with it.
-template <class Box, class Value>
-Object* boxed(const Value& value, Object* reuse, void (Object::*set)(Value)) {
-  if (reuse == nullptr) return new Box(value);
-  (reuse->*set)(value);
-  return reuse;
-}
 
 void appendLine(zkstringbuffer& out, int level, const char* begin, const zkstring& tag) {
   DataObjectXML::appendIndent(out, level);
@@ -106,16 +98,16 @@ zkstring ExceptionDataObject::getRootXMLTag() { return THIS_TYPE; }
 
 Object* ExceptionDataObject::getField0(int index, Object* reuse) const {
   if (index < 0 || index >= FIELD_COUNT) return AbstractDataObject::getField0(index, reuse);
-  if (index == CASCADABLE) return boxed<BoolObject, bool>(cascadable, reuse, &Object::setBoolean);
-  return boxed<StringObject, const zkstring&>(texts[static_cast<Field>(index)], reuse, &Object::setString);
+  if (index == CASCADABLE) return box(cascadable, reuse);
+  return box(texts[static_cast<Field>(index)], reuse);
 }
 
 void ExceptionDataObject::setField0(int index, const Object* value) {
   if (index < 0 || index >= FIELD_COUNT) return AbstractDataObject::setField0(index, value);
   if (index == CASCADABLE) {
-    cascadable = value->getBoolean();
+    unbox(value, cascadable);
   } else {
-    texts[static_cast<Field>(index)] = value->getString();
+    unbox(value, texts[static_cast<Field>(index)]);
   }
 }
 

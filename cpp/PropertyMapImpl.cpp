@@ -213,11 +213,11 @@ StringList PropertyMapSubset::getNames(const zkstring& below) {
 }
 
 SmartPtr<IPropertyMap> PropertyMapDelegate::getProperties() {
-  writeMap();
+  store();
   return properties;
 }
 
-IPropertyMap& PropertyMapDelegate::writeMap() {
+IPropertyMap& PropertyMapDelegate::store() {
   if (properties.isNull()) properties = new PropertyMapImpl;
   return *properties;
 }

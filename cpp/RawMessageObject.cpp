@@ -8,6 +8,6 @@ zkstring RawMessageObject::toString() const { return value.isNull() ? zkstring()
 
 const zkstring& RawMessageObject::getObjectType() const { return KelvaraTypes::RAW_MESSAGE_TYPE; }
 
-void RawMessageObject::setObject(const Object* other) { value = other->getRawMessage(); }
+void RawMessageObject::setObject(const Object* other) { setRawMessage(other->getRawMessage()); }
 
 }  // namespace zarvik

@@ -1,5 +1,7 @@
 #include "SimpleLogger.h"
 
+#include <algorithm>
+#include <climits>
 #include <cstdio>
 #include <cstring>
 #include <map>
@@ -16,10 +18,11 @@ Loggers& loggers() {
   return all;
 }
 
-/// A message of `length` bytes, which may hold less: "%.*s" ends at the first byte 0.
+/// A message of `length` bytes, which may hold less: "%.*s" ends at the first byte 0, and takes a negative number for
+/// no limit.
 void writeLine(V_LOG_LEVEL level, const char* message, std::size_t length) {
   static constexpr const char* levelTexts[] = {"", "ERROR", "WARN", "INFO", "", "DEBUG"};
-  std::printf("[%s] %.*s\n", levelTexts[level], static_cast<int>(length), message);
+  std::printf("[%s] %.*s\n", levelTexts[level], static_cast<int>(std::min<std::size_t>(length, INT_MAX)), message);
 }
 }  // namespace
 

@@ -7,13 +7,14 @@
 
 namespace zarvik {
 
-/// What all raw messages have but the bytes. Properties and attachments cost a null pointer each until one is set.
+/// What all raw messages have but the bytes. Properties cost a null pointer until the first of their operations, a
+/// reading one too; attachments until one is set or asked for.
 class AbstractRawMessage : public PropertyMapForwarder<AbstractRawMessage, IRawMessage> {
  public:
   using AttachmentMap = std::map<zkstring, RawMessage>;
 
   AbstractRawMessage() = default;
-  /// Shares the properties and attachments that `other` has by now; has count 0.
+  /// Shares the maps of properties and attachments that `other` has by now, if any; has count 0.
   AbstractRawMessage(const AbstractRawMessage& other);
   AbstractRawMessage& operator=(const AbstractRawMessage&) = delete;
   ~AbstractRawMessage() override;
@@ -47,8 +48,7 @@ class AbstractRawMessage : public PropertyMapForwarder<AbstractRawMessage, IRawM
   /// Counted, so that a copied message may share it.
   class Attachments : public ObjectRef, public AttachmentMap {};
 
-  IPropertyMap& readMap();
-  IPropertyMap& writeMap();
+  IPropertyMap& store();
   const zkstring& nameOf(const zkstring& propertyName) const { return propertyName; }
   zkstring dump();
 

@@ -13,8 +13,7 @@ class PropertyMapDelegate : public PropertyMapForwarder<PropertyMapDelegate, IPr
 
  private:
   friend class PropertyMapForwarder<PropertyMapDelegate, IPropertyMap>;
-  IPropertyMap& readMap() { return writeMap(); }
-  IPropertyMap& writeMap();
+  IPropertyMap& store();
   const zkstring& nameOf(const zkstring& name) const { return name; }
 
   SmartPtr<IPropertyMap> properties;

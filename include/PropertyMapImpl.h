@@ -82,8 +82,7 @@ class PropertyMapSubset : public PropertyMapForwarder<PropertyMapSubset, IProper
 
  private:
   friend class PropertyMapForwarder<PropertyMapSubset, IPropertyMap2>;
-  IPropertyMap2& readMap() { return *properties; }
-  IPropertyMap2& writeMap() { return *properties; }
+  IPropertyMap2& store() { return *properties; }
   zkstring nameOf(const zkstring& name) const { return prefix + name; }
 
   SmartPtr<IPropertyMap2> properties;

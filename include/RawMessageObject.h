@@ -12,7 +12,7 @@ class RawMessageObject : public Boxed<RawMessageObject, WrapperObject, RawMessag
   zkstring toString() const override;
   const zkstring& getObjectType() const override;
   const RawMessage& getRawMessage() const override { return value; }
-  void setRawMessage(const RawMessage& message) override { value = message; }
+  void setRawMessage(const RawMessage& message) override { value = RawMessage(message); }  ///< may be its own
   void setObject(const Object* other) override;
 };
 

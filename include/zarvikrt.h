@@ -16,6 +16,7 @@
 #include "ByteArrayInputSource.h"
 #include "ByteArrayOutputDevice.h"
 #include "ByteBuffer.h"
+#include "Cartridge.h"
 #include "CartridgeMessageIdentifier.h"
 #include "Class.h"
 #include "ContextOutputProtocol.h"
