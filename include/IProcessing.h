@@ -4,7 +4,13 @@
 
 namespace zarvik {
 
-/// A user's processing of a whole object.
-class IProcessing : public ICustomClass {};
+class DataObject;
+class TransformContext;
+
+/// A user's processing of a whole object, which generated steps call.
+class IProcessing : public ICustomClass {
+ public:
+  virtual void process(DataObject* object, TransformContext& context) = 0;
+};
 
 }  // namespace zarvik

@@ -4,15 +4,18 @@
 #include "Living.h"
 #include "LookupContextFactory.h"
 #include "ObjectFactory.h"
+#include "RecordingMessage.h"
 #include "SimpleXMLOutputFormat.h"
 #include "Support.h"
 
 namespace zarvik {
 namespace {
 
-struct Message : Living<IMessage> {};
-struct External : Living<IExternalMessage> {};
-struct Internal : Living<IInternalMessage> {};
+struct Message : Living<RecordingMessage<IMessage>> {};
+struct External : Living<RecordingMessage<IExternalMessage>> {
+  SmartPtr<ExternalObject> createExternalObject() override { return {}; }
+};
+struct Internal : Living<RecordingTransaction> {};
 struct Mapping : Living<IMessageMapping> {};
 struct Flow : Living<IMessageFlow> {};
 struct Output : Living<SimpleXMLOutputFormat> {};

@@ -9,7 +9,9 @@
 namespace zarvik {
 namespace {
 
-struct Processing : Living<IProcessing> {};
+struct Processing : Living<IProcessing> {
+  void process(DataObject* /*object*/, TransformContext& /*context*/) override {}
+};
 struct Plain : Living<Object> {};
 
 template <class T>

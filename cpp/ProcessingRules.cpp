@@ -1,0 +1,41 @@
+#include "ProcessingRules.h"
+
+#include "CustomInstances.h"
+#include "IFieldProcessing.h"
+#include "Stamped.h"
+
+namespace zarvik {
+
+void ProcessingRules::process(DataObject* object, TransformContext& context) {
+  withErrorType(ExceptionObject::getERROR_TYPE_PROCESSING(), [&] { process0(object, context); });
+}
+
+void ProcessingRules::preprocess(DataObject* object, TransformContext& context) {
+  run(context, [&] { preprocess(object); });
+}
+
+void ProcessingRules::validate(DataObject* object, TransformContext& context) {
+  run(context, [&] { validate(object); });
+}
+
+void ProcessingRules::postprocess(DataObject* object, TransformContext& context) {
+  run(context, [&] { postprocess(object); });
+}
+
+void ProcessingRules::checkNotNull(DataObject* object, TransformContext& context) {
+  run(context, [&] { checkNotNull(object); });
+}
+
+void ProcessingRules::process0(DataObject* object, TransformContext& context) {
+  preprocess(object, context);
+  validate(object, context);
+  postprocess(object, context);
+  checkNotNull(object, context);
+}
+
+Object* ProcessingRules::customFieldProcessing(const zkstring& className, const zkstring& argument,
+                                               DataObject* object) {
+  return customInstance<IFieldProcessing>(fieldProcessings, className).process(argument, object);
+}
+
+}  // namespace zarvik

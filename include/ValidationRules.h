@@ -1,0 +1,22 @@
+#pragma once
+
+#include "AbstractValidationRules.h"
+
+namespace zarvik {
+
+/// The base of generated validations of a normalised object. See AbstractValidationRules.
+class ValidationRules : public AbstractValidationRules {
+ public:
+  virtual ~ValidationRules() = default;
+
+  void validate(DataObject* object, TransformContext& context);
+  /// The handler stays the caller's and is used until the next one is set.
+  void setExceptionHandler(ExceptionHandler* handler) { exceptionHandler = handler; }
+
+ protected:
+  virtual void validate(DataObject* object) = 0;  ///< the generated step
+
+  ExceptionHandler* exceptionHandler = ExceptionHandler::DRACONIAN_EXCEPTION_HANDLER;
+};
+
+}  // namespace zarvik
