@@ -17,11 +17,12 @@ namespace {
 constexpr char here[] = "cpp/AbstractExternalMessage";
 constinit const zkstringliteral mainValidator("Default");
 
-ExternalObject& externalObject(const SmartPtr<DataObject>& object) {
-  if (object.isNull()) {
+ExternalObject& externalObject(const SmartPtr<DataObject>& handle) {
+  DataObject* const object = handle.get();
+  if (object == nullptr) {
     throwFrom(here, TransformRuntimeException("Unexpected null object. Expected external object"));
   }
-  if (auto* const external = dynamic_cast<ExternalObject*>(object.get())) return *external;
+  if (auto* const external = dynamic_cast<ExternalObject*>(object)) return *external;
   throwFrom(here, TransformRuntimeException("Unexpected object of type " + Class(typeid(*object)).getName() +
                                             ". Expected external object"));
 }
