@@ -3,10 +3,12 @@
 #include "ContextOutputProtocol.h"
 #include "Living.h"
 #include "LookupContextFactory.h"
+#include "LookupContextImpl.h"
 #include "ObjectFactory.h"
 #include "RecordingMessage.h"
 #include "SimpleXMLOutputFormat.h"
 #include "Support.h"
+#include "TriggerContextImpl.h"
 
 namespace zarvik {
 namespace {
@@ -38,7 +40,7 @@ struct NullFactory : ObjectFactory {
 
 /// The registry with one binding of each kind.
 struct Bindings {
-  Bindings() {
+  explicit Bindings(ILookupContext* registry) : registry(registry) {
     registry->bind("external", new GenericObjectFactory<External>);
     registry->bind("flow", new GenericObjectFactory<Flow>);
     registry->bind("internal", new GenericObjectFactory<Internal>);
@@ -55,8 +57,14 @@ struct Bindings {
     for (const char* name : names) registry->unbind(name);
   }
 
-  const SmartPtr<ILookupContext> registry = LookupContextFactory::getLookupContext();
+  const SmartPtr<ILookupContext> registry;
 };
+
+/// A trigger's context answers as the registry does.
+template <class Context>
+struct LookupContext : testing::Test {};
+using Contexts = testing::Types<LookupContextImpl, TriggerContextImpl>;
+TYPED_TEST_SUITE(LookupContext, Contexts, );
 
 /// The names that `lookup` serves, and that it makes two objects for two calls; all else is refused with `refusal`.
 template <class Lookup>
@@ -76,8 +84,8 @@ std::string servedBy(Lookup lookup, const std::string& before, const std::string
   return served;
 }
 
-TEST(LookupContext, typedLookUpsMakeNewObjects) {
-  const Bindings at;
+TYPED_TEST(LookupContext, typedLookUpsMakeNewObjects) {
+  const Bindings at(new TypeParam);
   const auto served = [&at](auto operation) {
     const auto lookup = [&](const char* name) { return ((*at.registry).*operation)(name); };
     EXPECT_NE(errorOf<NamingException>([&] { lookup("nothing"); }), "");
@@ -97,8 +105,8 @@ TEST(LookupContext, typedLookUpsMakeNewObjects) {
   EXPECT_EQ(Message::alive + External::alive + Internal::alive + Output::alive + Plain::alive, 0);
 }
 
-TEST(LookupContext, aProtocolIsBoundAsItIs) {
-  const Bindings at;
+TYPED_TEST(LookupContext, aProtocolIsBoundAsItIs) {
+  const Bindings at(new TypeParam);
   EXPECT_EQ(at.registry->lookupOutputProtocol("protocol"), at.registry->lookup("protocol"));
   for (const char* name : {"nothing", "null", "output"}) {
     EXPECT_EQ(errorOf<TransformException>([&] { at.registry->lookupOutputProtocol(name); }),
@@ -106,8 +114,8 @@ TEST(LookupContext, aProtocolIsBoundAsItIs) {
   }
 }
 
-TEST(LookupContext, listsNamesByWhatTheirFactoriesMake) {
-  const Bindings at;
+TYPED_TEST(LookupContext, listsNamesByWhatTheirFactoriesMake) {
+  const Bindings at(new TypeParam);
   // Other modules may have bound names too, so only ours are looked at.
   const auto listed = [](StringList list) {
     std::string ours;
@@ -128,8 +136,8 @@ TEST(LookupContext, listsNamesByWhatTheirFactoriesMake) {
   EXPECT_EQ(Plain::alive, 0);
 }
 
-TEST(LookupContext, bindsANameOnce) {
-  const Bindings at;
+TYPED_TEST(LookupContext, bindsANameOnce) {
+  const Bindings at(new TypeParam);
   const SmartPtr<Protocol> held(new Protocol);
   Protocol::alive = 0;
   held->addRef();
