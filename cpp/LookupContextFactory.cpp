@@ -13,8 +13,10 @@ constinit const zkstringliteral xmlFormatName("NOXMLOut");
 LookupContextFactory& LookupContextFactory::getLookupContextFactory() {
   static LookupContextFactory factory;
   static bool used = false;
-  if (!std::exchange(used, true))
+  if (!used) {  // written once alone: afterwards threads may read it
+    used = true;
     LookupContextImpl().bind(xmlFormatName, new GenericObjectFactory<SimpleXMLOutputFormat>);
+  }
   return factory;
 }
 

@@ -18,12 +18,6 @@ zkstring nameOf(DataObject* part) {
   return part != nullptr ? part->getFieldVal(TestRecord::NAME)->getString() : "null";
 }
 
-TestRecord* named(const char* name) {
-  auto* const record = new TestRecord;
-  record->setField(TestRecord::NAME, zkstring(name));
-  return record;
-}
-
 /// Writes the names of the parts.
 struct Writer : AbstractSimpleOutputWriter {
   void writeHeader(DataObject* header, TransformContext&) override { text.append("H:").append(nameOf(header)); }
@@ -46,17 +40,17 @@ struct Bare : AbstractOutputFormat {
 /// A format with all parts, whose names tell what was known when they were mapped.
 struct Full : Bare {
   using Bare::Bare;
-  DataObject* createRecordData() override { return named("data"); }
-  DataObject* createHeader() override { return named("header"); }
-  DataObject* createTrailer() override { return named("trailer"); }
-  void mapData(DataObject* input, DataObject* data, TransformContext&) override { map("data", input, data); }
-  void mapHeader(DataObject* input, DataObject* header, TransformContext&) override { map("header", input, header); }
+  DataObject* createRecordData() override { return TestRecord::named("data"); }
+  DataObject* createHeader() override { return TestRecord::named("header"); }
+  DataObject* createTrailer() override { return TestRecord::named("trailer"); }
+  void mapData(DataObject* input, DataObject* data, TransformContext&) override { map(input, data); }
+  void mapHeader(DataObject* input, DataObject* header, TransformContext&) override { map(input, header); }
   void mapTrailer(DataObject* input, DataObject* data, DataObject* trailer, TransformContext&) override {
-    map("trailer", input, trailer);
-    map("trailer", data, trailer);
+    map(input, trailer);
+    map(data, trailer);
   }
-  static void map(const char* step, DataObject* from, DataObject* to) {
-    steps += step + std::string(" ");
+  static void map(DataObject* from, DataObject* to) {
+    steps += (nameOf(to) + " ").c_str();
     dynamic_cast<TestRecord*>(to)->setField(TestRecord::NAME, nameOf(to) + "<" + nameOf(from));
   }
 };
@@ -102,37 +96,33 @@ struct Output {
   }
 
   const SmartPtr<ILookupContext> registry = LookupContextFactory::getLookupContext();
-  const SmartPtr<TestRecord> input = SmartPtr<TestRecord>(named("input"));
+  const SmartPtr<TestRecord> input = SmartPtr<TestRecord>(TestRecord::named("input"));
   TransformContext context;
   Writer writer;
 };
 
 TEST(Output, mapsThePartsInOrderAndWritesThem) {
   Output at;
-  const SmartPtr<Full> format(new Full(&at.writer));
-  at.write(*format);
+  at.write(*SmartPtr<Full>(new Full(&at.writer)));
+  at.write(*SmartPtr<Bare>(new Bare(&at.writer)));
   EXPECT_EQ(steps,
-            "header data trailer trailer here,source,format"
-            "[H:header<input D:data<input T:trailer<input<data<input] closed");
-  const SmartPtr<Bare> bare(new Bare(&at.writer));
-  steps.clear();
-  at.write(*bare);
-  EXPECT_EQ(steps, "here,source,format[H:null D:null T:null] closed");
+            "header data trailer trailer<input "
+            "here,source,format[H:header<input D:data<input T:trailer<input<data<input] closed"
+            "here,source,format[H:null D:null T:null] closed");
 }
 
 TEST(Output, stampsItsPhaseOnWhatLeaves) {
   Output at;
   struct : OutputWriter {
   } other;
-  const SmartPtr<Bare> noWriter(new Bare(nullptr));
-  const SmartPtr<Bare> otherWriter(new Bare(&other));
-  EXPECT_EQ(errorOf<ClassCastException>([&] { at.write(*noWriter); }),
-            "Cannot cast NULL to zarvik::SimpleOutputWriter");
-  EXPECT_NE(errorOf<ClassCastException>([&] { at.write(*otherWriter); }).find("* to zarvik::SimpleOutputWriter"),
-            std::string::npos);
-  EXPECT_EQ(steps, "");
-
   const SmartPtr<Bare> bare(new Bare(&at.writer));
+  for (OutputWriter* refused : {static_cast<OutputWriter*>(nullptr), static_cast<OutputWriter*>(&other)}) {
+    bare->writer = refused;
+    const std::string error = errorOf<ClassCastException>([&] { at.write(*bare); });
+    EXPECT_EQ(error.substr(error.rfind(" to ")), " to zarvik::SimpleOutputWriter");
+  }
+  EXPECT_EQ(steps, "");
+  bare->writer = &at.writer;
   const SmartPtr<IOutputFormat> xml = at.registry->lookupOutputFormat("NOXMLOut");
   at.context.setProperty(TransformContext::INPUT_SOURCE_PROPERTY, "refused");
   EXPECT_EQ(at.failure(*bare), "no room|Output");
@@ -147,27 +137,24 @@ TEST(Output, writesXMLWithoutGeneratedCode) {
   Output at;
   const SmartPtr<IOutputFormat> format = at.registry->lookupOutputFormat("NOXMLOut");
   const SmartPtr<Object> copy(format->clone());
-  for (Object* each : {static_cast<Object*>(format.get()), copy.get()}) {
-    steps.clear();
-    at.write(dynamic_cast<IOutputFormat&>(*each));
-    EXPECT_EQ(steps, "here,source,format[" + std::string(at.input->toXMLString().c_str()) + "] closed");
-  }
+  at.write(*format);
+  at.write(dynamic_cast<IOutputFormat&>(*copy));
+  const std::string once = "here,source,format[" + std::string(at.input->toXMLString().c_str()) + "] closed";
+  EXPECT_EQ(steps, once + once);
   EXPECT_EQ(errorOf<NamingException>([&] { at.registry->bind("NOXMLOut", nullptr); }), "NOXMLOut already bound");
 }
 
 TEST(Output, aWriterKeepsTheHandlerOfItsLastCall) {
   Output at;
   CascadingExceptionHandler handler;
-  ExternalObject object(named("h"), named("d"), nullptr);
-  EXPECT_EQ(at.writer.writeExternal(object, at.context), "H:h D:d T:null");
+  ExternalObject object(TestRecord::named("h"), TestRecord::named("d"), nullptr);
   EXPECT_EQ(at.writer.exceptionHandler, ExceptionHandler::DRACONIAN_EXCEPTION_HANDLER);
   EXPECT_EQ(at.writer.write(object, &handler, at.context), "H:h D:d T:null");
-  const RawMessage first = at.writer.writeExternalMessage(object, at.context);
+  const RawMessage message = at.writer.writeExternalMessage(object, at.context);
   EXPECT_EQ(at.writer.exceptionHandler, &handler);
-  object.setExternalObjects(nullptr, nullptr, nullptr);
   at.writer.writeMessage(object, ExceptionHandler::DRACONIAN_EXCEPTION_HANDLER, at.context);
   EXPECT_EQ(at.writer.exceptionHandler, ExceptionHandler::DRACONIAN_EXCEPTION_HANDLER);
-  EXPECT_EQ(first->getAsString(), "H:h D:d T:null");
+  EXPECT_EQ(message->getAsString(), "H:h D:d T:null");
 }
 
 }  // namespace

@@ -44,6 +44,12 @@ class TestRecord : public AbstractDataObject {
                : AbstractDataObject::createSectionElement(sectionName, section);
   }
 
+  static TestRecord* named(const char* name) {
+    auto* const record = new TestRecord;
+    record->setField(NAME, zkstring(name));
+    return record;
+  }
+
   TestRecord* add(DataObjectSection& section, const char* name) {
     const SmartPtr<TestRecord> record(new TestRecord(&section));
     section.addElement(record.get());
