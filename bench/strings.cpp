@@ -20,6 +20,12 @@ T& opaque(T& value) {
   return value;
 }
 
+/// As a getter gives a constant out, by value.
+template <class Text>
+[[gnu::noinline]] Text given(const Text& text) {
+  return text;
+}
+
 void copies() {
   static std::string standard(100, 'x');
   static zkstring text(100, 'x');
@@ -31,6 +37,8 @@ void copies() {
   measure("slice of 60 in 100 bytes", "std::string", [] { return opaque(standard).substr(20, 60); });
   measure("copy of a literal", ours, [] { return zkstring(opaque(literal)); });
   measure("copy of a literal", "std::string_view", [] { return std::string_view(opaque(view)); });
+  measure("literal from a getter", ours, [] { return given<zkstring>(opaque(literal)); });
+  measure("literal from a getter", "std::string_view", [] { return given(opaque(view)); });
 }
 
 /// 1 KB in which `filler` stands everywhere but at the end, where `pattern` stands.
