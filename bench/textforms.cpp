@@ -97,9 +97,11 @@ const auto parseDouble = [](const zkstring& text) { return Parsing::parseDouble(
 const auto strtoll10 = [](const char* text) { return std::strtoll(text, nullptr, 10); };
 const auto strtodAll = [](const char* text) { return std::strtod(text, nullptr); };
 
+// Not pointers to functions, which no compiler could expand in place as it does `std::to_chars`.
+const auto v_itoa = [](int value, char* text) { zarvik::v_itoa(value, text); };
+const auto v_ltoa = [](__int64 value, char* text) { zarvik::v_ltoa(value, text); };
+
 void wholes() {
-  using zarvik::v_itoa;
-  using zarvik::v_ltoa;
   printsWholes("int to text, 0 to 59", batchOf<int>([](auto& random) { return random() % 60; }), "%d", v_itoa);
   for (int digits = 1; digits <= 10; ++digits) {
     const std::string subject = "int to text, " + std::to_string(digits) + " digits";

@@ -35,11 +35,10 @@ char* putPair(char* out, std::uint64_t n) {
   return out + 2;
 }
 
-/// A number of one or two digits.
+/// A number of one or two digits, without a branch: behind a single digit a 0 is written, for what follows to replace.
 char* putOneOrTwo(char* out, std::uint64_t n) {
-  if (n >= 10) return putPair(out, n);
-  *out = static_cast<char>('0' + n);
-  return out + 1;
+  std::memcpy(out, smallNumberTexts[n].data(), 2);
+  return out + (n < 10 ? 1 : 2);
 }
 
 constexpr std::uint64_t hundredToThe(int n) { return n == 0 ? 1 : 100 * hundredToThe(n - 1); }
