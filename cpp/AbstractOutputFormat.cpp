@@ -12,8 +12,9 @@ namespace zarvik {
 
 AbstractOutputFormat::AbstractOutputFormat() : lookupContext(LookupContextFactory::getLookupContext()) {}
 
-AbstractOutputFormat::AbstractOutputFormat(const AbstractOutputFormat& other)
-    : Object(), IOutputFormat(), lookupContext(other.lookupContext), outputDevice(other.outputDevice) {}
+AbstractOutputFormat::AbstractOutputFormat(const AbstractOutputFormat& other) : AbstractOutputFormat() {
+  outputDevice = other.outputDevice;
+}
 
 AbstractOutputFormat::~AbstractOutputFormat() = default;
 

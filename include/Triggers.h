@@ -13,6 +13,9 @@ class TransformContext;
 
 /// Fires the triggers of one internal message. Generated code derives from it: its dispatch evaluates the conditions
 /// and calls each trigger that `getTriggerObject` gives.
+///
+/// The message is held by a reference, so one that owns its triggers hands them a BusinessTransactionWrapper of itself
+/// (trigger contexts likewise): otherwise each keeps the other alive for good.
 class Triggers {
  public:
   Triggers(SmartPtr<IInternalMessage> businessTransaction);
