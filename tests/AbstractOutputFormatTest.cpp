@@ -58,7 +58,9 @@ struct Full : Bare {
 struct Device : AbstractOutputDevice {
   using AbstractOutputDevice::AbstractOutputDevice;
   void write(const char* bytes, int count) override {
-    if (getDeviceInfo().getMessageIdentifier() == "refused") throw NamingException("no room");
+    NamingException error("no room");
+    error.setPhase("inner");
+    if (getDeviceInfo().getMessageIdentifier() == "refused") throw error;
     steps += "[" + std::string(bytes, static_cast<std::size_t>(count)) + "]";
   }
   void close() override { steps += " closed"; }
@@ -126,7 +128,7 @@ TEST(Output, stampsItsPhaseOnWhatLeaves) {
   const SmartPtr<IOutputFormat> xml = at.registry->lookupOutputFormat("NOXMLOut");
   at.context.setProperty(TransformContext::INPUT_SOURCE_PROPERTY, "refused");
   EXPECT_EQ(at.failure(*bare), "no room|Output");
-  EXPECT_EQ(at.failure(*xml), "no room|");
+  EXPECT_EQ(at.failure(*xml), "no room|inner");
   EXPECT_EQ(steps, "here,refused,formathere,refused,format");  // and none closed
   at.context.clear();
   EXPECT_EQ(at.failure(*bare), "Device not available at |Output");
