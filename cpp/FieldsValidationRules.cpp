@@ -22,7 +22,7 @@ zkstring invalidFieldName(const zkstring& validationName, DataObject* object, in
 
 template <class Step>
 void FieldsValidationRules::validatePart(TransformContext& context, Step step) {
-  withErrorType(ExceptionObject::getERROR_TYPE_VALIDATION(), [&] { run(context, step); });
+  withErrorType(ExceptionObject::getERROR_TYPE_VALIDATION(), [&] { inContext(context, step); });
 }
 
 void FieldsValidationRules::validateHeader(DataObject* header, TransformContext& context) {

@@ -11,19 +11,19 @@ void ProcessingRules::process(DataObject* object, TransformContext& context) {
 }
 
 void ProcessingRules::preprocess(DataObject* object, TransformContext& context) {
-  run(context, [&] { preprocess(object); });
+  inContext(context, [&] { preprocess(object); });
 }
 
 void ProcessingRules::validate(DataObject* object, TransformContext& context) {
-  run(context, [&] { validate(object); });
+  inContext(context, [&] { validate(object); });
 }
 
 void ProcessingRules::postprocess(DataObject* object, TransformContext& context) {
-  run(context, [&] { postprocess(object); });
+  inContext(context, [&] { postprocess(object); });
 }
 
 void ProcessingRules::checkNotNull(DataObject* object, TransformContext& context) {
-  run(context, [&] { checkNotNull(object); });
+  inContext(context, [&] { checkNotNull(object); });
 }
 
 void ProcessingRules::process0(DataObject* object, TransformContext& context) {

@@ -3,7 +3,7 @@
 namespace zarvik {
 
 void ValidationRules::validate(DataObject* object, TransformContext& context) {
-  run(context, [&] { validate(object); });
+  inContext(context, [&] { validate(object); });
 }
 
 }  // namespace zarvik

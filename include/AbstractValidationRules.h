@@ -61,7 +61,7 @@ class AbstractValidationRules {
 
   /// Runs `step` as a run of its own in `context`.
   template <class Step>
-  void run(TransformContext& context, Step step) {
+  void inContext(TransformContext& context, Step step) {
     struct Frame {
       ~Frame() { rules.teardown(); }
       AbstractValidationRules& rules;

@@ -1,10 +1,7 @@
 #include "AbstractExternalMessage.h"
 
-#include <functional>
-
 #include "ByteArrayInputSource.h"
 #include "DataObjectIO.h"
-#include "ExternalObject.h"
 #include "FieldsValidationRules.h"
 #include "InputParser.h"
 #include "Reporting.h"
@@ -15,145 +12,93 @@
 namespace zarvik {
 namespace {
 
+SmartPtr<DataObject> with(const char* name) {
+  return new ExternalObject(recordOf("H").get(), recordOf(name).get(), recordOf("T").get());
+}
+
 /// The bytes are the name in the data.
-class Parser : public InputParser {
- public:
+struct Parser : InputParser {
+  using InputParser::ensureNotNull;
   using InputParser::parse;
   void parse(ExternalObject* object, const Binary& bytes, TransformContext& /*context*/) override {
     object->getData()->setField(TestRecord::NAME, StringObject(bytes.toString()));
     report(told(bytes), exceptionHandler);
   }
-  ExternalObject* parse(const Binary& /*bytes*/, TransformContext& /*context*/) override { return nullptr; }
+  ExternalObject* parse(const Binary& bytes, TransformContext& /*context*/) override {
+    return new ExternalObject(nullptr, recordOf(told(bytes).c_str()).get(), nullptr);
+  }
 };
 
-class Writer : public SimpleOutputWriter {
- public:
+struct Writer : SimpleOutputWriter {
   zkstring writeExternal(ExternalObject& object, TransformContext& /*context*/) override {
-    const std::string name = nameOf(object.getData());
-    report(name, exceptionHandler);
-    return ("<" + name + ">").c_str();
+    report(told(object.getData()), exceptionHandler);
+    return ("<" + told(object.getData()) + ">").c_str();
   }
 };
 
 /// Notes its steps with the names of the parts, and tests the name in the data.
-class Rules : public FieldsValidationRules {
- public:
-  std::string steps;
-
- protected:
+struct Rules : FieldsValidationRules {
   void validateData0(DataObject* header, DataObject* data) override {
-    steps += "data " + nameOf(header) + "," + nameOf(data) + " ";
-    report(nameOf(data), exceptionHandler);
+    steps += "data " + told(header) + "," + told(data) + " ";
+    report(told(data), exceptionHandler);
   }
-  void validateHeader0(DataObject* header) override { steps += "header " + nameOf(header) + " "; }
-  void validateTrailer0(DataObject* trailer) override { steps += "trailer " + nameOf(trailer) + " "; }
+  void validateHeader0(DataObject* header) override { steps += "header " + told(header) + " "; }
+  void validateTrailer0(DataObject* trailer) override { steps += "trailer " + told(trailer) + " "; }
+  std::string steps;
 };
 
-class Message : public AbstractExternalMessage {
- public:
+struct Message : AbstractExternalMessage {
   Message() : AbstractExternalMessage("Message") {
     addValidator("Default", &rules);
     addValidator("Other", &otherRules);
     addValidator("Other", &rules);  // too late
   }
-  SmartPtr<ExternalObject> createExternalObject() override {
-    return new ExternalObject(recordOf("H").get(), recordOf("").get(), recordOf("T").get());
-  }
+  SmartPtr<ExternalObject> createExternalObject() override { return guardedCast<ExternalObject>(with("").get()); }
   InputParser* getInputParser() override { return &parser; }
   SimpleOutputWriter* getOutputWriter() override { return &writer; }
 
-  Rules rules;
-  Rules otherRules;
-
- private:
+  Rules rules, otherRules;
   Parser parser;
   Writer writer;
 };
 
-SmartPtr<DataObject> with(const char* name) {
-  return new ExternalObject(recordOf("H").get(), recordOf(name).get(), recordOf("T").get());
-}
-
 TEST(ExternalMessage, plainOperationsThrowTheFirstErrorAndTheOthersCollect) {
   const SmartPtr<Message> message(new Message);
   TransformContext context;
-  struct Row {
-    const char* name;
-    std::function<std::string(const char*)> operation;
-    const char* good;       // of "a"
-    const char* reporting;  // of "a!b!"
-    const char* throwing;   // of "!?"
+  const auto sourceOf = [](const char* text) { return RawMessage(new ByteArrayInputSource(Binary(zkstring(text)))); };
+  // Two errors are reported, or one before another is thrown.
+  const auto test = [](const char* name, const std::string& reporting, const std::string& throwing, auto operation) {
+    EXPECT_EQ(outcome([&] { return operation("!!"); }), reporting) << name;
+    EXPECT_EQ(outcome([&] { return operation("!?"); }), throwing) << name;
   };
-  const auto line = [](const char* name, auto operation, const char* good, const char* reporting,
-                       const char* throwing) {
-    return Row{name, [=](const char* text) { return outcome([&] { return operation(text); }); }, good, reporting,
-               throwing};
+  const auto plain = [&](const char* name, const std::string& type, auto operation) {
+    test(name, "throws !  " + type, "throws !  " + type, operation);
   };
-  const auto bytes = [](const char* text) { return Binary(zkstring(text)); };
-  const Row rows[] = {
-      line(
-          "parse", [&](auto text) { return message->parse(bytes(text), context); }, "a", "throws !  ", "throws !  "),
-      line(
-          "parse a source",
-          [&](auto text) {
-            ByteArrayInputSource source(bytes(text));
-            return message->parse(static_cast<InputSource&>(source), context);
-          },
-          "a", "throws !  ", "throws !  "),
-      line(
-          "parse a message",
-          [&](auto text) { return message->parse(RawMessage(new ByteArrayInputSource(bytes(text))), context); }, "a",
-          "throws !  ", "throws !  "),
-      line(
-          "parse2", [&](auto text) { return message->parse2(bytes(text), context); }, "a", "a!b! [!] [!]",
-          "throws ?  "),
-      line(
-          "parse2 a source",
-          [&](auto text) {
-            ByteArrayInputSource source(bytes(text));
-            return message->parse2(static_cast<InputSource&>(source), context);
-          },
-          "a", "a!b! [!] [!]", "throws ?  "),
-      line(
-          "validate", [&](auto text) { message->validate(with(text), context); }, "done", "throws !  Validation",
-          "throws !  Validation"),
-      line(
-          "validate by", [&](auto text) { message->validate("Other", with(text), context); }, "done",
-          "throws !  Validation", "throws !  Validation"),
-      line(
-          "validate2", [&](auto text) { return message->validate2(with(text), context); }, "null", "null [!] [!]",
-          "throws ?  Validation"),
-      line(
-          "validate2 by", [&](auto text) { return message->validate2("Other", with(text), context); }, "null",
-          "null [!] [!]", "throws ?  Validation"),
-      line(
-          "serialize", [&](auto text) { return message->serialize(with(text), context); }, "<a>", "throws !  ",
-          "throws !  "),
-      line(
-          "serialize2", [&](auto text) { return message->serialize2(with(text), context); }, "<a>", "<a!b!> [!] [!]",
-          "throws ?  "),
-      line(
-          "serializeMessage", [&](auto text) { return message->serializeMessage(with(text), context); }, "<a>",
-          "throws !  ", "throws !  "),
-      line(
-          "serializeMessage2", [&](auto text) { return message->serializeMessage2(with(text), context); }, "<a>",
-          "<a!b!> [!] [!]", "throws ?  "),
-  };
-  for (int round = 0; round < 2; ++round) {  // again, for no call must leave its handler to the next
-    for (const Row& row : rows) {
-      EXPECT_EQ(row.operation("a"), row.good) << row.name;
-      EXPECT_EQ(row.operation("a!b!"), row.reporting) << row.name;
-      EXPECT_EQ(row.operation("!?"), row.throwing) << row.name;
-    }
+  for (int round = 0; round < 2; ++round) {  // again, for no call may leave its handler to the next
+    plain("parse", "", [&](auto text) { return message->parse(Binary(zkstring(text)), context); });
+    plain("parse message", "", [&](auto text) { return message->parse(sourceOf(text), context); });
+    plain("parse source", "",
+          [&](auto text) { return message->parse(static_cast<InputSource&>(*sourceOf(text)), context); });
+    plain("validate", "Validation", [&](auto text) { message->validate(with(text), context); });
+    plain("validate by", "Validation", [&](auto text) { message->validate("Other", with(text), context); });
+    plain("serialize", "", [&](auto text) { return message->serialize(with(text), context); });
+    plain("serializeMessage", "", [&](auto text) { return message->serializeMessage(with(text), context); });
+    test("parse2", "!!!!", "throws ?  ", [&](auto text) { return message->parse2(Binary(zkstring(text)), context); });
+    test("parse2 source", "!!!!", "throws ?  ",
+         [&](auto text) { return message->parse2(static_cast<InputSource&>(*sourceOf(text)), context); });
+    test("validate2", "null!!", "throws ?  Validation",
+         [&](auto text) { return message->validate2(with(text), context); });
+    test("validate2 by", "null!!", "throws ?  Validation",
+         [&](auto text) { return message->validate2("Other", with(text), context); });
+    test("serialize2", "<!!>!!", "throws ?  ", [&](auto text) { return message->serialize2(with(text), context); });
+    test("serializeMessage2", "<!!>!!", "throws ?  ",
+         [&](auto text) { return message->serializeMessage2(with(text), context); });
   }
 }
 
 TEST(ExternalMessage, theContextSelectsTheForm) {
   const SmartPtr<Message> message(new Message);
-  TransformContext context;
   const SmartPtr<DataObject> object = with("a");
-  const std::string xml = textOf(object->toXMLString());
-  const std::string compact = told(DataObjectIO::serialize(object.get()));
   struct Row {
     const char* form;
     std::string written;
@@ -161,50 +106,56 @@ TEST(ExternalMessage, theContextSelectsTheForm) {
   };
   const Row rows[] = {{"", "<a>", "<a>"},
                       {"Xml", "<a>", "<a>"},
-                      {"xml", xml, "throws XML parsing is not supported  "},
-                      {"zarvik", compact, "a"}};
+                      {"xml", told(object->toXMLString()), "throws XML parsing is not supported  "},
+                      {"zarvik", told(DataObjectIO::serialize(object.get())), "a"}};
   for (const Row& row : rows) {
+    TransformContext context;
     context.setProperty(IMessage::MESSAGE_FORMAT, row.form);
-    const Binary bytes = message->serialize(object, context);
-    EXPECT_EQ(told(bytes), row.written);
-    EXPECT_EQ(outcome([&] { return message->serializeMessage(object, context); }), row.written);
-    EXPECT_EQ(outcome([&] { return message->parse(bytes, context); }), row.parsed);
-    EXPECT_EQ(outcome([&] { return message->parse2(bytes, context); }), row.parsed);
-    EXPECT_EQ(outcome([&] { return message->parse(RawMessage(new ByteArrayInputSource(bytes)), context); }),
-              row.written);
+    const RawMessage written = message->serializeMessage(object, context);
+    EXPECT_EQ(told(written), row.written);
+    EXPECT_EQ(told(message->serialize(object, context)), row.written);
+    EXPECT_EQ(outcome([&] { return message->parse(static_cast<InputSource&>(*written), context); }), row.parsed);
+    EXPECT_EQ(outcome([&] { return message->parse(written, context); }), row.written);
   }
-  EXPECT_EQ(message->parse(Binary(zkstring(compact.data(), static_cast<unsigned int>(compact.size()))), context)
-                ->toXMLString(),
-            object->toXMLString());
 }
 
-TEST(ExternalMessage, rulesSeeTheHeaderFirstAndTheTrailerLast) {
+TEST(ExternalMessage, validatesAndWritesExternalObjects) {
   const SmartPtr<Message> message(new Message);
+  const SmartPtr<DataObject> objects[] = {nullptr, new TestRecord};
+  constexpr const char* texts[] = {"Unexpected null object. Expected external object",
+                                   "Unexpected object of type zarvik::TestRecord. Expected external object"};
+  const auto refusal = [](auto operation) { return errorOf<TransformRuntimeException>(operation); };
   TransformContext context;
-  message->validate(with("a"), context);
-  EXPECT_EQ(message->rules.steps, "header H data H,a trailer T ");
-  message->validate("Other", with("b"), context);
-  EXPECT_EQ(message->otherRules.steps, "header H data H,b trailer T ");
-}
-
-TEST(ExternalMessage, onlyExternalObjectsAreValidatedAndWritten) {
-  const SmartPtr<Message> message(new Message);
-  TransformContext context;
-  const SmartPtr<DataObject> none;
-  const SmartPtr<DataObject> other(new TestRecord);
-  const auto refusal = [&](auto operation) { return errorOf<TransformRuntimeException>(operation); };
   for (const char* form : {"", "xml", "zarvik"}) {
     context.setProperty(IMessage::MESSAGE_FORMAT, form);
-    const auto refusals = [&](const SmartPtr<DataObject>& object, const char* text) {
-      EXPECT_EQ(refusal([&] { message->validate(object, context); }), text);
-      EXPECT_EQ(refusal([&] { message->serialize(object, context); }), text);
-      EXPECT_EQ(refusal([&] { message->serializeMessage(object, context); }), text);
-    };
-    refusals(none, "Unexpected null object. Expected external object");
-    refusals(other, "Unexpected object of type zarvik::TestRecord. Expected external object");
+    for (int i = 0; i < 2; ++i) {
+      EXPECT_EQ(refusal([&] { message->validate(objects[i], context); }), texts[i]);
+      EXPECT_EQ(refusal([&] { message->serialize(objects[i], context); }), texts[i]);
+      EXPECT_EQ(refusal([&] { message->serializeMessage(objects[i], context); }), texts[i]);
+    }
   }
-  EXPECT_EQ(refusal([&] { message->validate("None", none, context); }),
+  EXPECT_EQ(refusal([&] { message->validate("None", nullptr, context); }),
             "Validator by name 'None' is not defined for the message");
+
+  message->validate(with("a"), context);
+  message->validate("Other", with("b"), context);
+  EXPECT_EQ(message->rules.steps + message->otherRules.steps,
+            "header H data H,a trailer T header H data H,b trailer T ");
+}
+
+TEST(InputParser, takesSourcesAsBytesAndWantsValues) {
+  const SmartPtr<Message> message(new Message);
+  TransformContext context;
+  const RawMessage source(new ByteArrayInputSource(Binary(zkstring("a"))));
+  EXPECT_EQ(told(SmartPtr<DataObject>(message->parser.parse(static_cast<InputSource&>(*source), context))), "a");
+  const SmartPtr<TestRecord> record(new TestRecord);
+  const auto test = [&](const char* value, int index) {
+    return errorOf<FieldParsingException>([&] { message->parser.ensureNotNull(value, record.get(), index, context); });
+  };
+  EXPECT_EQ(test("x", 99), "no exception");
+  EXPECT_EQ(test("", 1), "Field 'No of' cannot be null.");
+  EXPECT_EQ(test("", 99), "Null value error while parsing a field");
+  message->parser.ensureNotNull0("x", record.get(), 99, context);
 }
 
 }  // namespace

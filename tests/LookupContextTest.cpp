@@ -1,11 +1,12 @@
 #include <algorithm>
 
+#include "AbstractExternalMessage.h"
+#include "BusinessTransactionWrapper.h"
 #include "ContextOutputProtocol.h"
 #include "Living.h"
 #include "LookupContextFactory.h"
 #include "LookupContextImpl.h"
 #include "ObjectFactory.h"
-#include "RecordingMessage.h"
 #include "SimpleXMLOutputFormat.h"
 #include "Support.h"
 #include "TriggerContextImpl.h"
@@ -13,11 +14,17 @@
 namespace zarvik {
 namespace {
 
-struct Message : Living<RecordingMessage<IMessage>> {};
-struct External : Living<RecordingMessage<IExternalMessage>> {
+struct Silent : AbstractExternalMessage {
+  Silent() : AbstractExternalMessage("Silent") {}
   SmartPtr<ExternalObject> createExternalObject() override { return {}; }
+  InputParser* getInputParser() override { return nullptr; }
+  SimpleOutputWriter* getOutputWriter() override { return nullptr; }
 };
-struct Internal : Living<RecordingTransaction> {};
+struct External : Living<Silent> {};
+struct NoTransaction : BusinessTransactionWrapper {
+  NoTransaction() : BusinessTransactionWrapper(nullptr) {}
+};
+struct Internal : Living<NoTransaction> {};
 struct Mapping : Living<IMessageMapping> {};
 struct Flow : Living<IMessageFlow> {};
 struct Output : Living<SimpleXMLOutputFormat> {};
@@ -30,8 +37,8 @@ struct ObjectMapping : Living<INormalizedObjectMappingFormat> {
 struct Plain : Living<Object> {};
 struct Protocol : Living<ContextOutputProtocol> {};
 
-constexpr const char* names[] = {"external", "flow",    "internal", "mapping", "message",  "nothing",
-                                 "null",     "objects", "output",   "plain",   "protocol", "nulls"};
+constexpr const char* names[] = {"external", "flow",   "internal", "mapping",  "nothing", "null",
+                                 "objects",  "output", "plain",    "protocol", "nulls"};
 
 /// A factory that makes nothing.
 struct NullFactory : ObjectFactory {
@@ -45,7 +52,6 @@ struct Bindings {
     registry->bind("flow", new GenericObjectFactory<Flow>);
     registry->bind("internal", new GenericObjectFactory<Internal>);
     registry->bind("mapping", new GenericObjectFactory<Mapping>);
-    registry->bind("message", new GenericObjectFactory<Message>);
     registry->bind("null", nullptr);
     registry->bind("nulls", new NullFactory);
     registry->bind("objects", new GenericObjectFactory<ObjectMapping>);
@@ -91,7 +97,7 @@ TYPED_TEST(LookupContext, typedLookUpsMakeNewObjects) {
     EXPECT_NE(errorOf<NamingException>([&] { lookup("nothing"); }), "");
     return servedBy(lookup, "Unable to lookup '", "'");
   };
-  EXPECT_EQ(served(&ILookupContext::lookupMessage), "external internal message ");
+  EXPECT_EQ(served(&ILookupContext::lookupMessage), "external internal ");
   EXPECT_EQ(served(&ILookupContext::lookupExternalMessage), "external ");
   EXPECT_EQ(served(&ILookupContext::lookupInternalMessage), "internal ");
   EXPECT_EQ(served(&ILookupContext::lookupBusinessTransaction), "internal ");
@@ -102,7 +108,7 @@ TYPED_TEST(LookupContext, typedLookUpsMakeNewObjects) {
   EXPECT_EQ(servedBy([&at](const char* name) { return at.registry->lookupNormalizedObjectMappingFormat(name); },
                      "NormalizedObjectMappingFormat not available at ", ""),
             "objects ");
-  EXPECT_EQ(Message::alive + External::alive + Internal::alive + Output::alive + Plain::alive, 0);
+  EXPECT_EQ(External::alive + Internal::alive + Output::alive + Plain::alive, 0);
 }
 
 TYPED_TEST(LookupContext, aProtocolIsBoundAsItIs) {
@@ -125,7 +131,7 @@ TYPED_TEST(LookupContext, listsNamesByWhatTheirFactoriesMake) {
     }
     return ours;
   };
-  EXPECT_EQ(listed(at.registry->getMessages()), "external internal message ");
+  EXPECT_EQ(listed(at.registry->getMessages()), "external internal ");
   EXPECT_EQ(listed(at.registry->getExternalMessages()), "external ");
   EXPECT_EQ(listed(at.registry->getInternalMessages()), "internal ");
   EXPECT_EQ(listed(at.registry->getMessageMappings()), "mapping ");
@@ -144,9 +150,9 @@ TYPED_TEST(LookupContext, bindsANameOnce) {
   EXPECT_EQ(errorOf<NamingException>([&] { at.registry->bind("protocol", held.get()); }), "protocol already bound");
   EXPECT_TRUE(held->unique());
   EXPECT_EQ(errorOf<NamingException>([&] { at.registry->bind("protocol", new Plain); }), "protocol already bound");
-  EXPECT_EQ(errorOf<NamingException>([&] { at.registry->bind("protocol", new Message); }), "protocol already bound");
+  EXPECT_EQ(errorOf<NamingException>([&] { at.registry->bind("protocol", new Internal); }), "protocol already bound");
   EXPECT_EQ(errorOf<NamingException>([&] { at.registry->bind("protocol", nullptr); }), "protocol already bound");
-  EXPECT_EQ(Plain::alive + Message::alive, 0);
+  EXPECT_EQ(Plain::alive + Internal::alive, 0);
 
   at.registry->bind("null", held.get());
   EXPECT_EQ(LookupContextFactory::getLookupContext()->lookupComponent("null"), held.get());

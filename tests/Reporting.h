@@ -9,7 +9,6 @@
 #include "GuardedCast.h"
 #include "RawMessage.h"
 #include "Result.h"
-#include "SmartPtr.h"
 #include "TestRecord.h"
 
 namespace zarvik {
@@ -23,32 +22,25 @@ inline void report(const std::string& text, ExceptionHandler* handler) {
   }
 }
 
-inline std::string textOf(const zkstring& text) { return {text.data(), text.length()}; }
-
-/// A record of that name.
-inline SmartPtr<TestRecord> recordOf(const std::string& name) {
+inline SmartPtr<TestRecord> recordOf(const char* name) {
   const SmartPtr<TestRecord> record(new TestRecord);
-  record->setField(TestRecord::NAME, zkstring(name.c_str()));
+  record->setField(TestRecord::NAME, zkstring(name));
   return record;
 }
+inline std::string told(const zkstring& text) { return {text.data(), text.length()}; }
+inline std::string told(const Binary& bytes) { return told(bytes.toString()); }
+inline std::string told(const RawMessage& message) { return told(message->getAsString()); }
+inline std::string told(DataObject* record) { return told(guardedCast<TestRecord>(record)->values.name); }
 
-inline std::string nameOf(DataObject* record) { return textOf(guardedCast<TestRecord>(record)->values.name); }
-
-// What an operation gave back. The record is a TestRecord, or has one for data.
+/// The name of the record, or of the record that is the data.
 inline std::string told(const SmartPtr<DataObject>& object) {
-  if (object.isNull()) return "null";
   const auto* const external = dynamic_cast<ExternalObject*>(object.get());
-  return nameOf(external != nullptr ? external->getData() : object.get());
+  return object.isNull() ? "null" : told(external != nullptr ? external->getData() : object.get());
 }
-inline std::string told(const Binary& bytes) { return textOf(bytes.toString()); }
-inline std::string told(const RawMessage& message) { return textOf(message->getAsString()); }
 template <class T>
 std::string told(const Result<T>& result) {
   std::string text = told(result.value);
-  for (ExceptionDataObject* entry : result.exceptions) {
-    const SmartPtr<ExceptionDataObject> own(entry);
-    text += " [" + textOf(own->getMessage()) + textOf(own->getErrorType()) + "]";
-  }
+  for (ExceptionDataObject* entry : result.exceptions) text += told(SmartPtr<ExceptionDataObject>(entry)->getMessage());
   return text;
 }
 
@@ -62,7 +54,7 @@ std::string outcome(Work work) {
       return told(work());
     }
   } catch (const TransformException& error) {
-    return "throws " + textOf(error.getMessage()) + " " + textOf(error.getPhase()) + " " + textOf(error.getErrorType());
+    return told("throws " + error.getMessage() + " " + error.getPhase() + " " + error.getErrorType());
   }
 }
 
