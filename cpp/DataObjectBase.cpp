@@ -188,7 +188,7 @@ zkstring DataObjectBase::toXMLStringImpl(int level) {
 zkstring DataObjectBase::nameForError(int index) const {
   try {
     return const_cast<DataObjectBase*>(this)->getQualifiedName(index);
-  } catch (const Exception&) {
+  } catch (...) {
     return literalTail("at index ", index);
   }
 }

@@ -76,10 +76,8 @@ void DataObjectMetaInfo::indexNames() {
     field->getMangledName();
     byName.push_back(field.get());
   }
-  std::sort(byName.begin(), byName.end(), [](const FieldMetaInfo* a, const FieldMetaInfo* b) {
-    const int order = a->getName().compare(b->getName());
-    return order != 0 ? order < 0 : a->getIndex() < b->getIndex();
-  });
+  std::stable_sort(byName.begin(), byName.end(),
+                   [](const FieldMetaInfo* a, const FieldMetaInfo* b) { return a->getName() < b->getName(); });
 }
 
 FieldMetaInfo* DataObjectMetaInfo::find(const zkstring& fieldName) const {

@@ -27,8 +27,9 @@ void takeOver(AbstractDataObjectSection& section, const AbstractDataObjectSectio
 }  // namespace
 
 void DataObjectSectionImpl::copy(const DataObjectSectionImpl& other, DataObject* newParent) {
-  for (const SmartPtr<DataObject>& original : other.elements) {
-    const SmartPtr<DataObject> element = cloneOf(original.get());
+  const std::size_t count = other.elements.size();  // as it is now: `other` may be this section
+  for (std::size_t i = 0; i < count; ++i) {
+    const SmartPtr<DataObject> element = cloneOf(other.elements[i].get());
     element->setParentSection(this);
     addElement(element.get());
   }

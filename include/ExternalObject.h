@@ -26,10 +26,13 @@ class ExternalObject : public AbstractDataObject {
 
   static DataObjectMetaInfo* metaInfo();  ///< the fields "Header", "Data" and "Trailer"
 
+  /// The part itself, whether or not the field is null; null without one. Of the two forms this alone: filling a box
+  /// with a part fails.
+  Object* getField0(int index) const override;
+  void setField0(int index, const Object* value) override;  ///< leaves the flag as it is
+
  protected:
   using AbstractDataObject::getField0;
-  Object* getField0(int index) const override;  // of the two forms this alone: filling a box with a part fails
-  void setField0(int index, const Object* value) override;
 
  private:
   bool flags[3] = {};
