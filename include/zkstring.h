@@ -179,6 +179,8 @@ class zkstring {
   }
   void substr(unsigned int pos, zkstring& out) const { out = substr(pos); }
   void substr(unsigned int pos, unsigned int n, zkstring& out) const {  ///< n is taken as it stands, not clipped
+    if (out.array == array) [[likely]]
+      return out.assign0(pointer + pos, n, array, false);  // counts one on the block already
     out = zkstring(pointer + pos, n, array, true);
   }
 
