@@ -10,7 +10,7 @@ namespace zarvik {
 /// Registered as "FIXMessageIdentifier", and in the default service. Without state. A text is copied once.
 class FIXMessageIdentifier : public MessageIdentifier {
  public:
-  /// The header as a record named "FIXHeader". Throws FIXParsingException for a header that cannot be read.
+  /// The header as a new FIXHeader. Throws FIXParsingException for a header that cannot be read.
   DataObject* identifyMessage(InputSource& source) override;
 
   bool isMatch(const char* text, int length) const;
