@@ -1,0 +1,90 @@
+#include "fix/FIXOutputWriter.h"
+
+#include <numeric>
+
+#include "Soh.h"
+#include "Support.h"
+#include "TestRecord.h"
+#include "fix/FIXTokenizer.h"
+
+namespace zarvik {
+namespace {
+
+struct OpenWriter : FIXOutputWriter {
+  void writeHeader(DataObject* /*header*/, TransformContext& /*context*/) override {}
+  void writeData(DataObject* /*data*/, TransformContext& /*context*/) override {}
+  void writeTrailer(DataObject* /*trailer*/, TransformContext& /*context*/) override {}
+  using FIXOutputWriter::appendField;
+  using FIXOutputWriter::requiredFieldMissing;
+};
+
+/// The message around `fields`, by the rule: `head` comes first, '|' stands for the delimiter.
+std::string framed(const std::string& head, const std::string& fields) {
+  std::string message = soh(head + "9=" + std::to_string(fields.size()) + "|" + fields);
+  const int sum = std::accumulate(message.begin(), message.end(), 0,
+                                  [](int total, char c) { return (total + static_cast<unsigned char>(c)) % 256; });
+  return message + soh("10=" + std::to_string(1000 + sum).substr(1) + "|");
+}
+
+TEST(FIXOutputWriter, writesEveryKindOfValue) {
+  OpenWriter writer;
+  for (int round = 0; round < 2; ++round) {  // the second message is like the first
+    writer.appendField("8", "FIX.4.2");
+    writer.appendField("58", "");
+    writer.appendField("58", static_cast<const char*>(nullptr));
+    writer.appendField("58", zkstring());
+    writer.appendField("58", zkstring("text of a value"));
+    writer.appendField("54", 'b');
+    writer.appendField("40", '\0');
+    writer.appendField("34", 0);
+    writer.appendField("34", -2147483647 - 1);
+    writer.appendField("99", __int64{-9223372036854775807});
+    writer.appendField("44", 0.1F);
+    writer.appendField("44", -1234.5678901251);
+    writer.appendField("43", true);
+    writer.appendField("a tag of more than sixteen bytes", false);
+    EXPECT_EQ(str(writer.endMessage()),
+              framed("8=FIX.4.2|",
+                     "58=text of a value|54=b|40=|34=0|34=-2147483648|99=-9223372036854775807|44=0.1|"
+                     "44=-1234.56789013|43=true|a tag of more than sixteen bytes=false|"));
+    writer.initMessage();
+  }
+  EXPECT_EQ(writer.writeBatchStart(), nullptr);
+}
+
+TEST(FIXOutputWriter, framesMessagesOfEverySize) {
+  OpenWriter writer;
+  EXPECT_EQ(str(writer.endMessage()), framed("", ""));
+  zkstring kept;
+  std::string all;
+  for (unsigned int size = 1; size < 300; ++size) {
+    const std::string value(size, static_cast<char>(0x80 + size % 100));
+    writer.initMessage();
+    writer.appendField("8", "X");
+    writer.appendField("58", zk(value));
+    const zkstring message = writer.endMessage();
+    EXPECT_EQ(str(message), framed("8=X|", "58=" + value + "|"));
+    if (size == 100) kept = message;
+  }
+  EXPECT_EQ(kept.length(), 4U + 6 + 104 + 7);  // untouched by the messages after it
+  EXPECT_EQ(kept[20], '\x80');
+
+  writer.initMessage();
+  writer.setChecksum(false);
+  writer.appendField("8", "FIX.4.2");
+  writer.appendField("35", "0");
+  OpenWriter copy(writer);
+  copy.appendField("1", 1);
+  EXPECT_EQ(str(writer.endMessage()), soh("8=FIX.4.2|9=5|35=0|"));
+  EXPECT_EQ(str(copy.endMessage()), soh("8=FIX.4.2|9=9|35=0|1=1|"));
+}
+
+TEST(FIXOutputWriter, namesAMissingField) {
+  const OpenWriter writer;
+  TestRecord record;
+  EXPECT_EQ(errorOf<FIXWriterException>([&] { writer.requiredFieldMissing(&record, TestRecord::NAME, 55); }),
+            "Name is a mandatory field. Tag 'Name[55]' cannot be null.");
+}
+
+}  // namespace
+}  // namespace zarvik
