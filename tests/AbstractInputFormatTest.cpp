@@ -1,7 +1,7 @@
 #include "AbstractInputFormat.h"
 
-#include "BusinessTransactionWrapper.h"
 #include "LookupContextFactory.h"
+#include "NoTransaction.h"
 #include "ObjectFactory.h"
 #include "Reporting.h"
 #include "StringInputSource.h"
@@ -12,8 +12,7 @@ namespace zarvik {
 namespace {
 
 /// Writes down the names of what it is handed; throws for "*".
-struct Taker : BusinessTransactionWrapper {
-  Taker() : BusinessTransactionWrapper(nullptr) {}
+struct Taker : NoTransaction {
   void handleNormalizedObject(DataObject* object, TransformContext& /*context*/) override {
     taken += told(object) + " ";
     if (told(object) == "*") throw TransformException("taken");

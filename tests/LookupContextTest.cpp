@@ -1,11 +1,11 @@
 #include <algorithm>
 
 #include "AbstractExternalMessage.h"
-#include "BusinessTransactionWrapper.h"
 #include "ContextOutputProtocol.h"
 #include "Living.h"
 #include "LookupContextFactory.h"
 #include "LookupContextImpl.h"
+#include "NoTransaction.h"
 #include "ObjectFactory.h"
 #include "SimpleXMLOutputFormat.h"
 #include "Support.h"
@@ -21,9 +21,6 @@ struct Silent : AbstractExternalMessage {
   SimpleOutputWriter* getOutputWriter() override { return nullptr; }
 };
 struct External : Living<Silent> {};
-struct NoTransaction : BusinessTransactionWrapper {
-  NoTransaction() : BusinessTransactionWrapper(nullptr) {}
-};
 struct Internal : Living<NoTransaction> {};
 struct Mapping : Living<IMessageMapping> {};
 struct Flow : Living<IMessageFlow> {};

@@ -3,8 +3,8 @@
 #include "InternalRouterTrigger.h"
 #include "Living.h"
 #include "LookupContextFactory.h"
+#include "NoTransaction.h"
 #include "ObjectFactory.h"
-#include "RecordingMessage.h"
 #include "RouterTrigger.h"
 #include "Support.h"
 #include "TestRecord.h"
@@ -39,7 +39,7 @@ struct Mapping : Living<INormalizedObjectMappingFormat> {
   zkstring getSourceMessageName() override { return {}; }
 };
 
-struct Target : Living<RecordingTransaction> {
+struct Target : Living<NoTransaction> {
   void handleNormalizedObject(DataObject* object, TransformContext& context) override {
     seenBy("target", object, context);
     if (context.getProperty("input.source") == "bad") throw NamingException("refused");
