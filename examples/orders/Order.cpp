@@ -13,21 +13,21 @@ using namespace zarvik;
 namespace orders {
 
 DataObjectMetaInfo* Order::metaInfo() {
-  static const char* const names[] = {"ID",       "Quantity",  "Sequence",   "Discount",    "Price",      "Side",
-                                      "Urgent",   "Signature", "Account",    "Notional",    "Entered",    "TradeDate",
-                                      "CutOff",   "Sent",      "Settlement", "MarketClose", "Instrument", "Legs",
-                                      "Currency", "Text",      "Parties",    "Portions",    "Execution"};
+  static const char* const names[] = {
+      "ID",         "Quantity", "Sequence", "Discount",  "Price",   "Side",     "Urgent",     "Signature",
+      "Account",    "Notional", "Entered",  "TradeDate", "CutOff",  "Sent",     "Settlement", "MarketClose",
+      "Instrument", "Legs",     "Currency", "Text",      "Parties", "Portions", "Executions", "SendingTime"};
   static const char* const types[] = {"String",   "Integer",     "Long",       "Float",      "Double",     "Character",
                                       "Boolean",  "Binary",      "BigInteger", "BigDecimal", "DateTime",   "DateOnly",
                                       "TimeOnly", "ISODateTime", "ISODate",    "ISOTime",    "DataObject", "Section",
-                                      "String",   "String",      "Section",    "Section",    "DataObject"};
+                                      "String",   "String",      "Section",    "Section",    "Section",    "DateTime"};
   struct Info : DataObjectMetaInfo {
     Info() : DataObjectMetaInfo(zkstringliteral("Order"), names, types, FIELD_COUNT) {
       getSectionMetaInfo(INSTRUMENT)->init(Instrument::metaInfo(), 0, 1);
       getSectionMetaInfo(LEGS)->init(Leg::metaInfo(), 0, 10);
       getSectionMetaInfo(PARTIES)->init(Party::metaInfo(), 0, -1);
       getSectionMetaInfo(PORTIONS)->init(Portion::metaInfo(), 0, -1);
-      getSectionMetaInfo(EXECUTION)->init(Execution::metaInfo(), 0, 1);
+      getSectionMetaInfo(EXECUTIONS)->init(Execution::metaInfo(), 0, -1);
     }
   };
   static Info info;
@@ -39,7 +39,7 @@ Order::Order(DataObjectSection* parent) : AbstractDataObject(metaInfo(), values.
   legs.initialize(this, *metaInfo()->getSectionMetaInfo(LEGS));
   parties.initialize(this, *metaInfo()->getSectionMetaInfo(PARTIES));
   portions.initialize(this, *metaInfo()->getSectionMetaInfo(PORTIONS));
-  execution.initialize(this, *metaInfo()->getSectionMetaInfo(EXECUTION));
+  executions.initialize(this, *metaInfo()->getSectionMetaInfo(EXECUTIONS));
   setSectionsNotNull();
 }
 
@@ -50,9 +50,8 @@ Order::Order(const Order& other, DataObjectSection* parent)
       legs(other.legs, this),
       parties(other.parties, this),
       portions(other.portions, this),
-      execution(other.execution, this) {
+      executions(other.executions, this) {
   if (instrument.getElementCount() != 0) instrument.getElement(0)->setParentSection(&instrument);
-  if (hasExecution()) execution.getElement(0)->setParentSection(&execution);
 }
 
 void Order::reset() {
@@ -61,12 +60,12 @@ void Order::reset() {
   legs.clear();
   parties.clear();
   portions.clear();
-  execution.clear();
+  executions.clear();
   setSectionsNotNull();
 }
 
 void Order::setSectionsNotNull() {  // sections are never null, only empty
-  for (const int section : {INSTRUMENT, LEGS, PARTIES, PORTIONS, EXECUTION}) setNotNull(section);
+  for (const int section : {INSTRUMENT, LEGS, PARTIES, PORTIONS, EXECUTIONS}) setNotNull(section);
 }
 
 DataObject* Order::createSectionElement(const zkstring& sectionName, DataObjectSection* section) const {
@@ -79,7 +78,7 @@ DataObject* Order::createSectionElement(const zkstring& sectionName, DataObjectS
       return new Party(section);
     case PORTIONS:
       return new Portion(section);
-    case EXECUTION:
+    case EXECUTIONS:
       return new Execution(section);
     default:
       return AbstractDataObject::createSectionElement(sectionName, section);
@@ -89,11 +88,6 @@ DataObject* Order::createSectionElement(const zkstring& sectionName, DataObjectS
 Instrument* Order::getInstrument() {
   if (instrument.getElementCount() == 0) instrument.addElement(new Instrument(&instrument));
   return static_cast<Instrument*>(instrument.getElement(0));
-}
-
-Execution* Order::getExecution() {
-  if (!hasExecution()) execution.addElement(new Execution(&execution));
-  return static_cast<Execution*>(execution.getElement(0));
 }
 
 Leg* Order::addLeg() { return &legs.add(); }
@@ -144,8 +138,10 @@ Object* Order::getField0(int index, Object* reuse) const {
       return box(parties, reuse);
     case PORTIONS:
       return box(portions, reuse);
-    case EXECUTION:
-      return box(execution, reuse);
+    case EXECUTIONS:
+      return box(executions, reuse);
+    case SENDING_TIME:
+      return box(values.sendingTime, reuse);
     default:
       return AbstractDataObject::getField0(index, reuse);
   }
@@ -197,8 +193,10 @@ void Order::setField0(int index, const Object* value) {
       return unbox(value, parties);
     case PORTIONS:
       return unbox(value, portions);
-    case EXECUTION:
-      return unbox(value, execution);
+    case EXECUTIONS:
+      return unbox(value, executions);
+    case SENDING_TIME:
+      return unbox(value, values.sendingTime);
     default:
       return AbstractDataObject::setField0(index, value);
   }

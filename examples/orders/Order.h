@@ -16,8 +16,9 @@ class Leg;
 class Party;
 class Portion;
 
-/// The order as the house knows it, whatever format it came in, and what became of it, if that is known: the normalised
-/// object of the cartridge. It has a field of every type that a value can be boxed as, nested objects and groups.
+/// The order as the house knows it, whatever format it came in, and what became of it, as far as that is known: the
+/// normalised object of the cartridge. It has a field of every type that a value can be boxed as, a nested object and
+/// groups.
 class Order : public zarvik::AbstractDataObject {
  public:
   enum : int {
@@ -43,7 +44,8 @@ class Order : public zarvik::AbstractDataObject {
     TEXT,
     PARTIES,
     PORTIONS,
-    EXECUTION,
+    EXECUTIONS,
+    SENDING_TIME,
     FIELD_COUNT
   };
 
@@ -98,8 +100,9 @@ class Order : public zarvik::AbstractDataObject {
   void setText(const zarvik::zkstring& value) { setNotNull(TEXT), values.text = value; }
   Group<Party>& getParties() { return parties; }
   Group<Portion>& getPortions() { return portions; }
-  Execution* getExecution();  ///< stays the order's; made when it is first asked for
-  bool hasExecution() const { return execution.getElementCount() != 0; }
+  Group<Execution>& getExecutions() { return executions; }
+  const zarvik::DateTime& getSendingTime() const { return ensureNotNull(SENDING_TIME), values.sendingTime; }
+  void setSendingTime(const zarvik::DateTime& value) { setNotNull(SENDING_TIME), values.sendingTime = value; }
 
  protected:
   using AbstractDataObject::getField0;
@@ -129,13 +132,14 @@ class Order : public zarvik::AbstractDataObject {
     zarvik::ISODateTime marketClose;
     zarvik::zkstring currency;
     zarvik::zkstring text;
+    zarvik::DateTime sendingTime;
   };
   Values values;
   zarvik::DataObjectSingleElementSectionImpl instrument;
   Group<Leg> legs;
   Group<Party> parties;
   Group<Portion> portions;
-  zarvik::DataObjectSingleElementSectionImpl execution;
+  Group<Execution> executions;
 };
 
 }  // namespace orders

@@ -1,52 +1,68 @@
-// A hand-written record at work: fills an order through its typed accessors, and prints it without knowing its class.
+// The cartridge at work: every FIX message of a file goes its whole road, and what comes out of it is printed.
+#include <algorithm>
 #include <cstdio>
+#include <fstream>
+#include <string>
 
-#include "orders/Instrument.h"
-#include "orders/Leg.h"
-#include "orders/Order.h"
-#include "orders/Party.h"
+#include "ByteArrayOutputDevice.h"
+#include "Exceptions.h"
+#include "IOutputContext.h"
+#include "MessageRouter.h"
+#include "StringInputSource.h"
+#include "TransformContext.h"
+#include "orders/Cartridge.h"
 
 using namespace zarvik;
 
 namespace {
 
-void fill(orders::Order& order) {
-  const DateTime now(2024, 2, 29, 13, 45, 10, 250);
-  order.setID("A&B-7");
-  order.setQuantity(1200);
-  order.setSequence(9007199254740993);
-  order.setDiscount(0.5F);
-  order.setPrice(101.375);
-  order.setSide('B');
-  order.setUrgent(true);
-  order.setSignature(Binary::fromHexString("00FF7A"));
-  order.setAccount(BigInteger("123456789012345678901234567890"));
-  order.setNotional(BigDecimal("121650.000000000000000001"));
-  order.setEntered(now);
-  order.setTradeDate(now);
-  order.setCutOff(now);
-  order.setSent(now);
-  order.setSettlement(now);
-  // MarketClose stays null, and so stays out of the text.
-  order.getInstrument()->setSymbol("ZARV");
-  order.getInstrument()->setMaturity(DateTime(2030, 6, 30, 0, 0, 0, 0));
-  for (const char* const symbol : {"ZARV-1", "ZARV-2"}) {
-    orders::Leg* const leg = order.addLeg();
-    leg->setSymbol(symbol);
-    leg->setRatio(1);
-    leg->addParty()->setID("broker <1>");
+constexpr char SOH = 1;
+constexpr char shown = '|';  ///< stands for SOH in the file and in what is printed
+
+void printOutput(TransformContext& context) {
+  for (ByteArrayOutputDevice* const device : context.getOutputContext()->getOutputDevices()) {
+    std::string text = device->getAsString();
+    std::replace(text.begin(), text.end(), SOH, shown);
+    std::printf("   %s: %s\n", device->getDeviceInfo().getOutputFormatName().c_str(), text.c_str());
   }
 }
 
-void print(const zkstring& text) { std::fwrite(text.data(), 1, text.length(), stdout); }
+void process(const MessageRouter& router, std::string message, const zkstring& origin) {
+  std::printf("%s: %s\n", origin.c_str(), message.c_str());
+  std::replace(message.begin(), message.end(), shown, SOH);
+  StringInputSource source(zkstring(message.data(), static_cast<unsigned int>(message.size())));
+  TransformContext context;
+  context.createOutputContext();
+  context.setProperty(TransformContext::INPUT_SOURCE_PROPERTY, origin);
+  try {
+    router.processMessage(source, context);
+    printOutput(context);
+  } catch (TransformException& error) {
+    std::printf("   refused: %s\n", error.getMessage().c_str());
+  }
+}
+
+int processAll(const char* name) {
+  std::ifstream file(name);
+  if (!file) {
+    std::fprintf(stderr, "orders: cannot read '%s'\n", name);
+    return 1;
+  }
+  MessageRouter router;
+  orders::addRows(router);
+  int number = 0;
+  for (std::string line; std::getline(file, line);) {
+    process(router, line, "message " + zkstring(std::to_string(++number).c_str()));
+  }
+  return 0;
+}
 }  // namespace
 
-int main() {
-  const SmartPtr<orders::Order> order(new orders::Order);
-  fill(*order);
-  DataObject* const record = order.get();
-  print(record->toXMLString());
-  print("Price: " + record->getFieldVal("Price")->toString() + "\n");
-  print("Second leg: " + record->getSection("Legs")->getElement(1)->getFieldVal("Symbol")->toString() + "\n");
-  record->getSection("Legs")->assertConstraints();
+int main(int count, char** arguments) {
+  if (count != 3) {
+    std::fprintf(stderr, "usage: orders MESSAGES FOLDER\nFOLDER takes the files of large orders and of executions\n");
+    return 2;
+  }
+  orders::install(arguments[2]);
+  return processAll(arguments[1]);
 }

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "orders/fix/MessageParser.h"
+
+namespace orders {
+
+class ExecutionReport;
+class Leg;
+
+/// Reads an execution report.
+class ExecutionReportParser : public MessageParser {
+ public:
+  using MessageParser::MessageParser;
+
+ protected:
+  zarvik::DataObject* createBody() const override;
+  bool takeField(zarvik::DataObject& body, Field& field, Tokenizer& tokenizer) override;
+  void checkBody(zarvik::DataObject& body) override;
+
+ private:
+  void takeLegs(Group<Leg>& legs, Field& field, Tokenizer& tokenizer);
+};
+
+}  // namespace orders

@@ -1,0 +1,66 @@
+#include "orders/fix/ExecutionReportWriter.h"
+
+#include "GuardedCast.h"
+#include "orders/fix/ExecutionReport.h"
+
+using namespace zarvik;
+
+namespace orders {
+
+void ExecutionReportWriter::writeData(DataObject* data, TransformContext& /*context*/) {
+  ExecutionReport& report = *guardedCast<ExecutionReport>(data);
+  require(report, ExecutionReport::ORDER_ID, 37);
+  require(report, ExecutionReport::EXEC_ID, 17);
+  if (!is44()) require(report, ExecutionReport::EXEC_TRANS_TYPE, 20);
+  require(report, ExecutionReport::EXEC_TYPE, 150);
+  require(report, ExecutionReport::ORD_STATUS, 39);
+  require(report, ExecutionReport::SYMBOL, 55);
+  require(report, ExecutionReport::SIDE, 54);
+  require(report, ExecutionReport::LEAVES_QTY, 151);
+  require(report, ExecutionReport::CUM_QTY, 14);
+  require(report, ExecutionReport::AVG_PX, 6);
+  appendField("37", report.getOrderID());
+  if (report.isNotNull(ExecutionReport::CL_ORD_ID)) appendField("11", report.getClOrdID());
+  appendField("17", report.getExecID());
+  if (!is44()) appendField("20", report.getExecTransType());
+  appendField("150", report.getExecType());
+  appendField("39", report.getOrdStatus());
+  if (report.isNotNull(ExecutionReport::ACCOUNT)) appendField("1", report.getAccount());
+  appendField("55", report.getSymbol());
+  if (report.isNotNull(ExecutionReport::SECURITY_ID)) appendField("48", report.getSecurityID());
+  if (report.isNotNull(ExecutionReport::SECURITY_ID_SOURCE)) appendField("22", report.getSecurityIDSource());
+  if (is44() && report.isNotNull(ExecutionReport::MATURITY_DATE)) appendDate("541", report.getMaturityDate());
+  appendField("54", report.getSide());
+  if (report.isNotNull(ExecutionReport::ORDER_QTY)) appendField("38", report.getOrderQty());
+  if (report.isNotNull(ExecutionReport::ORD_TYPE)) appendField("40", report.getOrdType());
+  if (report.isNotNull(ExecutionReport::PRICE)) appendField("44", report.getPrice());
+  if (report.isNotNull(ExecutionReport::CURRENCY)) appendField("15", report.getCurrency());
+  if (report.isNotNull(ExecutionReport::TIME_IN_FORCE)) appendField("59", report.getTimeInForce());
+  if (report.isNotNull(ExecutionReport::LAST_QTY)) appendField("32", report.getLastQty());
+  if (report.isNotNull(ExecutionReport::LAST_PX)) appendField("31", report.getLastPx());
+  appendField("151", report.getLeavesQty());
+  appendField("14", report.getCumQty());
+  appendField("6", report.getAvgPx());
+  if (report.isNotNull(ExecutionReport::TRADE_DATE)) appendDate("75", report.getTradeDate());
+  if (report.isNotNull(ExecutionReport::TRANSACT_TIME)) appendTimestamp("60", report.getTransactTime());
+  if (report.isNotNull(ExecutionReport::SETTL_DATE)) appendDate("64", report.getSettlDate());
+  if (report.isNotNull(ExecutionReport::TEXT)) appendField("58", report.getText());
+  if (report.isNotNull(ExecutionReport::RAW_DATA)) appendData("95", "96", report.getRawData());
+  appendPortions("382", report.getContraBrokers(), "375", "437");
+  if (!is44()) return;  // the groups below are new in it
+  appendParties("453", report.getParties(), "448", "447", "452");
+  appendLegs(report.getLegs());
+}
+
+void ExecutionReportWriter::appendLegs(const Group<Leg>& legs) {
+  const int count = legs.getElementCount();
+  if (count != 0) appendField("555", count);
+  for (int i = 0; i < count; ++i) {
+    Leg& leg = legs.at(i);
+    appendField("600", leg.getSymbol());
+    if (leg.isNotNull(Leg::RATIO)) appendField("623", leg.getRatio());
+    appendParties("539", leg.getParties(), "524", "525", "538");
+  }
+}
+
+}  // namespace orders

@@ -1,0 +1,166 @@
+#include "orders/fix/MessageParser.h"
+
+#include <memory>
+
+#include "Parsing.h"
+#include "Stamped.h"
+#include "ThrowFrom.h"
+#include "fix/FIXType.h"
+
+using namespace zarvik;
+
+namespace orders {
+namespace {
+
+constexpr char here[] = "examples/orders/fix/MessageParser";
+constexpr char SOH = 1;
+constexpr int firstUserDefinedTag = 5000;  ///< fields from here on are agreed between the parties; we step over them
+}  // namespace
+
+void MessageParser::parse(ExternalObject* message, const Binary& bytes, TransformContext& /*context*/) {
+  FIXTokenizer tokenizer(bytes.toASCIIString(), SOH);
+  stamped([&](TransformException& error) { error.setColumn(tokenizer.getNextTokenIndex()); },
+          [&] {
+            parseHeader(static_cast<FIXHeader&>(*message->getHeader()), tokenizer);
+            parseBody(*message->getData(), tokenizer);
+            parseTrailer(static_cast<FIXTrailer&>(*message->getTrailer()), tokenizer);
+            tokenizer.assertEmpty();
+          });
+}
+
+ExternalObject* MessageParser::parse(const Binary& bytes, TransformContext& context) {
+  auto message = std::make_unique<ExternalObject>(new FIXHeader, createBody(), new FIXTrailer);
+  parse(message.get(), bytes, context);
+  return message.release();
+}
+
+void MessageParser::parseHeader(FIXHeader& header, FIXTokenizer& tokenizer) {
+  Field field;
+  while (tokenizer.next(field)) {
+    switch (field.getTag()) {
+      case 8:
+        header.setBeginString(text(header, FIXHeader::BEGIN_STRING, field));
+        break;
+      case 9:
+        header.setBodyLength(integer(header, FIXHeader::BODY_LENGTH, field));
+        break;
+      case 35:
+        header.setMsgType(text(header, FIXHeader::MSG_TYPE, field));
+        break;
+      case 49:
+        header.setSenderCompID(text(header, FIXHeader::SENDER_COMP_ID, field));
+        break;
+      case 56:
+        header.setTargetCompID(text(header, FIXHeader::TARGET_COMP_ID, field));
+        break;
+      case 115:
+        header.setOnBehalfOfCompID(text(header, FIXHeader::ON_BEHALF_OF_COMP_ID, field));
+        break;
+      case 128:
+        header.setDeliverToCompID(text(header, FIXHeader::DELIVER_TO_COMP_ID, field));
+        break;
+      case 34:
+        header.setMsgSeqNum(integer(header, FIXHeader::MSG_SEQ_NUM, field));
+        break;
+      case 50:
+        header.setSenderSubID(text(header, FIXHeader::SENDER_SUB_ID, field));
+        break;
+      case 57:
+        header.setTargetSubID(text(header, FIXHeader::TARGET_SUB_ID, field));
+        break;
+      case 52:
+        header.setSendingTime(text(header, FIXHeader::SENDING_TIME, field));
+        break;
+      case 43:   // PossDupFlag
+      case 97:   // PossResend
+      case 122:  // OrigSendingTime
+        break;
+      default:
+        return tokenizer.pushBack(field);  // the body begins
+    }
+  }
+}
+
+void MessageParser::parseBody(DataObject& body, FIXTokenizer& tokenizer) {
+  Field field;
+  while (tokenizer.next(field)) {
+    if (takeField(body, field, tokenizer) || field.getTag() >= firstUserDefinedTag) continue;
+    tokenizer.pushBack(field);
+    break;
+  }
+  checkBody(body);
+}
+
+void MessageParser::parseTrailer(FIXTrailer& trailer, FIXTokenizer& tokenizer) {
+  Field field;
+  if (!tokenizer.next(field)) missingTag(10);
+  if (field.getTag() != 10) return tokenizer.pushBack(field);  // for the tokenizer to refuse
+  trailer.setCheckSum(text(trailer, FIXTrailer::CHECK_SUM, field));
+}
+
+const zkstring& MessageParser::text(Record& record, int index, const Field& field) {
+  assertTagNew(&record, index, field.getTag());
+  FIXInputParser::ensureNotNull(field.getValue(), &record, index);
+  return field.getValue();
+}
+
+char MessageParser::character(Record& record, int index, const Field& field) {
+  return Parsing::parseChar(text(record, index, field));
+}
+
+int MessageParser::integer(Record& record, int index, const Field& field) {
+  return Parsing::parseInt(text(record, index, field));
+}
+
+double MessageParser::number(Record& record, int index, const Field& field) {
+  return Parsing::parseDouble(text(record, index, field));
+}
+
+DateTime MessageParser::timestamp(Record& record, int index, const Field& field) {
+  return FIXType::parseUTCTimestamp(text(record, index, field));
+}
+
+DateTime MessageParser::date(Record& record, int index, const Field& field) {
+  return FIXType::parseLocalMktDate(text(record, index, field));
+}
+
+Binary MessageParser::data(Record& record, int index, Field& field, int dataTag, FIXTokenizer& tokenizer) {
+  const int length = field.toInt();
+  if (!tokenizer.nextDataTag(field, length) || field.getTag() != dataTag) missingTag(dataTag);
+  return text(record, index, field);
+}
+
+void MessageParser::takePortions(Group<Portion>& group, Field& field, const PortionTags& tags, Tokenizer& tokenizer) {
+  takeGroup(group, field, tags.id, tokenizer, [&](Portion& portion) {
+    if (field.getTag() == tags.id) {
+      portion.setID(text(portion, Portion::ID, field));
+    } else if (field.getTag() == tags.quantity) {
+      portion.setQuantity(integer(portion, Portion::QUANTITY, field));
+    } else {
+      return false;
+    }
+    return true;
+  });
+}
+
+void MessageParser::takeParties(Group<Party>& group, Field& field, const PartyTags& tags, Tokenizer& tokenizer) {
+  takeGroup(group, field, tags.id, tokenizer, [&](Party& party) {
+    if (field.getTag() == tags.id) {
+      party.setID(text(party, Party::ID, field));
+    } else if (field.getTag() == tags.source) {
+      party.setSource(character(party, Party::SOURCE, field));
+    } else if (field.getTag() == tags.role) {
+      party.setRole(integer(party, Party::ROLE, field));
+    } else {
+      return false;
+    }
+    return true;
+  });
+}
+
+void MessageParser::throwWrongCount(const Field& count, int found) {
+  throwFrom(here, FieldParsingException("Tag '" + Parsing::intToString(count.getTag()) + "' counts " +
+                                        count.getValue() + " elements, but there are " + Parsing::intToString(found)));
+}
+
+}  // namespace orders

@@ -1,0 +1,41 @@
+#include "orders/fix/NewOrderSingleWriter.h"
+
+#include "GuardedCast.h"
+#include "orders/fix/NewOrderSingle.h"
+
+using namespace zarvik;
+
+namespace orders {
+
+void NewOrderSingleWriter::writeData(DataObject* data, TransformContext& /*context*/) {
+  NewOrderSingle& order = *guardedCast<NewOrderSingle>(data);
+  require(order, NewOrderSingle::CL_ORD_ID, 11);
+  if (!is44()) require(order, NewOrderSingle::HANDL_INST, 21);
+  require(order, NewOrderSingle::SYMBOL, 55);
+  require(order, NewOrderSingle::SIDE, 54);
+  require(order, NewOrderSingle::TRANSACT_TIME, 60);
+  require(order, NewOrderSingle::ORDER_QTY, 38);
+  require(order, NewOrderSingle::ORD_TYPE, 40);
+  appendField("11", order.getClOrdID());
+  if (order.isNotNull(NewOrderSingle::ACCOUNT)) appendField("1", order.getAccount());
+  if (order.isNotNull(NewOrderSingle::HANDL_INST)) appendField("21", order.getHandlInst());
+  appendField("55", order.getSymbol());
+  if (order.isNotNull(NewOrderSingle::SECURITY_ID)) appendField("48", order.getSecurityID());
+  if (order.isNotNull(NewOrderSingle::SECURITY_ID_SOURCE)) appendField("22", order.getSecurityIDSource());
+  if (is44() && order.isNotNull(NewOrderSingle::MATURITY_DATE)) appendDate("541", order.getMaturityDate());
+  appendField("54", order.getSide());
+  appendTimestamp("60", order.getTransactTime());
+  appendField("38", order.getOrderQty());
+  appendField("40", order.getOrdType());
+  if (order.isNotNull(NewOrderSingle::PRICE)) appendField("44", order.getPrice());
+  if (order.isNotNull(NewOrderSingle::CURRENCY)) appendField("15", order.getCurrency());
+  if (order.isNotNull(NewOrderSingle::TIME_IN_FORCE)) appendField("59", order.getTimeInForce());
+  if (order.isNotNull(NewOrderSingle::SETTL_DATE)) appendDate("64", order.getSettlDate());
+  if (order.isNotNull(NewOrderSingle::TRADE_DATE)) appendDate("75", order.getTradeDate());
+  if (order.isNotNull(NewOrderSingle::TEXT)) appendField("58", order.getText());
+  if (order.isNotNull(NewOrderSingle::RAW_DATA)) appendData("95", "96", order.getRawData());
+  appendPortions("78", order.getAllocs(), "79", "80");
+  if (is44()) appendParties("453", order.getParties(), "448", "447", "452");
+}
+
+}  // namespace orders

@@ -1,0 +1,37 @@
+#include "orders/internal/OrderRules.h"
+
+#include "GuardedCast.h"
+#include "orders/Instrument.h"
+#include "orders/Names.h"
+#include "orders/Order.h"
+
+using namespace zarvik;
+
+namespace orders {
+
+void OrderPreprocessing::process(DataObject* object) {
+  Order& order = *guardedCast<Order>(object);
+  if (order.isNull(Order::URGENT)) order.setUrgent(false);
+  if (order.isNull(Order::TRADE_DATE) && order.isNotNull(Order::ENTERED)) order.setTradeDate(order.getEntered());
+}
+
+void OrderValidation::validate(DataObject* object) {
+  auto* const order = guardedCast<Order>(object);
+  check(order->isNotNull(Order::ID), "present", order, Order::ID);
+  check(order->isNotNull(Order::QUANTITY) && order->getQuantity() > 0, "positive", order, Order::QUANTITY);
+  check(order->isNull(Order::PRICE) || order->getPrice() > 0, "positive", order, Order::PRICE);
+  Instrument* const instrument = order->getInstrument();
+  if (instrument->isNotNull(Instrument::ISIN)) {
+    const SmartPtr<Object> isin(instrument->getField(Instrument::ISIN));
+    check(customValidation(ISIN_CHECK, isin.get(), zkstring::EMPTY, instrument), "check digit", instrument,
+          Instrument::ISIN);
+  }
+}
+
+void OrderPostprocessing::process(DataObject* object) {
+  Order& order = *guardedCast<Order>(object);
+  if (order.isNull(Order::PRICE)) return;
+  order.setNotional(BigDecimal(order.getQuantity()) * BigDecimal(order.getPrice()));
+}
+
+}  // namespace orders
