@@ -9,16 +9,16 @@ namespace orders {
 
 DataObjectMetaInfo* ExecutionReport::metaInfo() {
   static const char* const names[] = {
-      "OrderID", "ClOrdID",    "ExecID",           "ExecTransType", "ExecType", "OrdStatus", "Account",
-      "Symbol",  "SecurityID", "SecurityIDSource", "MaturityDate",  "Side",     "OrderQty",  "OrdType",
-      "Price",   "Currency",   "TimeInForce",      "LastQty",       "LastPx",   "LeavesQty", "CumQty",
-      "AvgPx",   "TradeDate",  "TransactTime",     "SettlDate",     "Text",     "RawData",   "ContraBrokers",
-      "Parties", "Legs"};
-  static const char* const types[] = {"String",   "String",    "String",  "Character", "Character", "Character",
-                                      "String",   "String",    "String",  "String",    "DateOnly",  "Character",
-                                      "Integer",  "Character", "Double",  "String",    "Character", "Integer",
-                                      "Double",   "Integer",   "Integer", "Double",    "DateOnly",  "DateTime",
-                                      "DateOnly", "String",    "Binary",  "Section",   "Section",   "Section"};
+      "OrderID",   "ClOrdID",    "ExecID",           "ExecTransType", "ExecType",         "OrdStatus", "Account",
+      "Symbol",    "SecurityID", "SecurityIDSource", "MaturityDate",  "SecurityExchange", "Side",      "OrderQty",
+      "OrdType",   "Price",      "Currency",         "TimeInForce",   "OrderCapacity",    "LastQty",   "LastPx",
+      "LastMkt",   "LeavesQty",  "CumQty",           "AvgPx",         "Commission",       "TradeDate", "TransactTime",
+      "SettlDate", "Text",       "RawData",          "ContraBrokers", "Parties",          "Legs"};
+  static const char* const types[] = {
+      "String",    "String",   "String", "Character", "Character", "Character", "String", "String", "String",
+      "String",    "DateOnly", "String", "Character", "Integer",   "Character", "Double", "String", "Character",
+      "Character", "Integer",  "Double", "String",    "Integer",   "Integer",   "Double", "Double", "DateOnly",
+      "DateTime",  "DateOnly", "String", "Binary",    "Section",   "Section",   "Section"};
   struct Info : DataObjectMetaInfo {
     Info() : DataObjectMetaInfo(zkstringliteral("ExecutionReport"), names, types, FIELD_COUNT) {
       getSectionMetaInfo(CONTRA_BROKERS)->init(Portion::metaInfo(), 0, -1);
@@ -86,6 +86,8 @@ Object* ExecutionReport::getField0(int index, Object* reuse) const {
       return box(values.securityIDSource, reuse);
     case MATURITY_DATE:
       return box(values.maturityDate, reuse);
+    case SECURITY_EXCHANGE:
+      return box(values.securityExchange, reuse);
     case SIDE:
       return box(values.side, reuse);
     case ORDER_QTY:
@@ -98,16 +100,22 @@ Object* ExecutionReport::getField0(int index, Object* reuse) const {
       return box(values.currency, reuse);
     case TIME_IN_FORCE:
       return box(values.timeInForce, reuse);
+    case ORDER_CAPACITY:
+      return box(values.orderCapacity, reuse);
     case LAST_QTY:
       return box(values.lastQty, reuse);
     case LAST_PX:
       return box(values.lastPx, reuse);
+    case LAST_MKT:
+      return box(values.lastMkt, reuse);
     case LEAVES_QTY:
       return box(values.leavesQty, reuse);
     case CUM_QTY:
       return box(values.cumQty, reuse);
     case AVG_PX:
       return box(values.avgPx, reuse);
+    case COMMISSION:
+      return box(values.commission, reuse);
     case TRADE_DATE:
       return box(values.tradeDate, reuse);
     case TRANSACT_TIME:
@@ -153,6 +161,8 @@ void ExecutionReport::setField0(int index, const Object* value) {
       return unbox(value, values.securityIDSource);
     case MATURITY_DATE:
       return unbox(value, values.maturityDate);
+    case SECURITY_EXCHANGE:
+      return unbox(value, values.securityExchange);
     case SIDE:
       return unbox(value, values.side);
     case ORDER_QTY:
@@ -165,16 +175,22 @@ void ExecutionReport::setField0(int index, const Object* value) {
       return unbox(value, values.currency);
     case TIME_IN_FORCE:
       return unbox(value, values.timeInForce);
+    case ORDER_CAPACITY:
+      return unbox(value, values.orderCapacity);
     case LAST_QTY:
       return unbox(value, values.lastQty);
     case LAST_PX:
       return unbox(value, values.lastPx);
+    case LAST_MKT:
+      return unbox(value, values.lastMkt);
     case LEAVES_QTY:
       return unbox(value, values.leavesQty);
     case CUM_QTY:
       return unbox(value, values.cumQty);
     case AVG_PX:
       return unbox(value, values.avgPx);
+    case COMMISSION:
+      return unbox(value, values.commission);
     case TRADE_DATE:
       return unbox(value, values.tradeDate);
     case TRANSACT_TIME:

@@ -25,17 +25,21 @@ class ExecutionReport : public zarvik::AbstractDataObject {
     SECURITY_ID,
     SECURITY_ID_SOURCE,
     MATURITY_DATE,
+    SECURITY_EXCHANGE,
     SIDE,
     ORDER_QTY,
     ORD_TYPE,
     PRICE,
     CURRENCY,
     TIME_IN_FORCE,
+    ORDER_CAPACITY,
     LAST_QTY,
     LAST_PX,
+    LAST_MKT,
     LEAVES_QTY,
     CUM_QTY,
     AVG_PX,
+    COMMISSION,
     TRADE_DATE,
     TRANSACT_TIME,
     SETTL_DATE,
@@ -88,6 +92,12 @@ class ExecutionReport : public zarvik::AbstractDataObject {
   }
   const zarvik::DateTime& getMaturityDate() const { return ensureNotNull(MATURITY_DATE), values.maturityDate; }
   void setMaturityDate(const zarvik::DateTime& value) { setNotNull(MATURITY_DATE), values.maturityDate = value; }
+  const zarvik::zkstring& getSecurityExchange() const {
+    return ensureNotNull(SECURITY_EXCHANGE), values.securityExchange;
+  }
+  void setSecurityExchange(const zarvik::zkstring& value) {
+    setNotNull(SECURITY_EXCHANGE), values.securityExchange = value;
+  }
   char getSide() const { return ensureNotNull(SIDE), values.side; }
   void setSide(char value) { setNotNull(SIDE), values.side = value; }
   int getOrderQty() const { return ensureNotNull(ORDER_QTY), values.orderQty; }
@@ -100,16 +110,22 @@ class ExecutionReport : public zarvik::AbstractDataObject {
   void setCurrency(const zarvik::zkstring& value) { setNotNull(CURRENCY), values.currency = value; }
   char getTimeInForce() const { return ensureNotNull(TIME_IN_FORCE), values.timeInForce; }
   void setTimeInForce(char value) { setNotNull(TIME_IN_FORCE), values.timeInForce = value; }
+  char getOrderCapacity() const { return ensureNotNull(ORDER_CAPACITY), values.orderCapacity; }
+  void setOrderCapacity(char value) { setNotNull(ORDER_CAPACITY), values.orderCapacity = value; }
   int getLastQty() const { return ensureNotNull(LAST_QTY), values.lastQty; }
   void setLastQty(int value) { setNotNull(LAST_QTY), values.lastQty = value; }
   double getLastPx() const { return ensureNotNull(LAST_PX), values.lastPx; }
   void setLastPx(double value) { setNotNull(LAST_PX), values.lastPx = value; }
+  const zarvik::zkstring& getLastMkt() const { return ensureNotNull(LAST_MKT), values.lastMkt; }
+  void setLastMkt(const zarvik::zkstring& value) { setNotNull(LAST_MKT), values.lastMkt = value; }
   int getLeavesQty() const { return ensureNotNull(LEAVES_QTY), values.leavesQty; }
   void setLeavesQty(int value) { setNotNull(LEAVES_QTY), values.leavesQty = value; }
   int getCumQty() const { return ensureNotNull(CUM_QTY), values.cumQty; }
   void setCumQty(int value) { setNotNull(CUM_QTY), values.cumQty = value; }
   double getAvgPx() const { return ensureNotNull(AVG_PX), values.avgPx; }
   void setAvgPx(double value) { setNotNull(AVG_PX), values.avgPx = value; }
+  double getCommission() const { return ensureNotNull(COMMISSION), values.commission; }
+  void setCommission(double value) { setNotNull(COMMISSION), values.commission = value; }
   const zarvik::DateTime& getTradeDate() const { return ensureNotNull(TRADE_DATE), values.tradeDate; }
   void setTradeDate(const zarvik::DateTime& value) { setNotNull(TRADE_DATE), values.tradeDate = value; }
   const zarvik::DateTime& getTransactTime() const { return ensureNotNull(TRANSACT_TIME), values.transactTime; }
@@ -146,17 +162,21 @@ class ExecutionReport : public zarvik::AbstractDataObject {
     zarvik::zkstring securityID;
     zarvik::zkstring securityIDSource;
     zarvik::DateTime maturityDate;
+    zarvik::zkstring securityExchange;
     char side = 0;
     int orderQty = 0;
     char ordType = 0;
     double price = 0;
     zarvik::zkstring currency;
     char timeInForce = 0;
+    char orderCapacity = 0;
     int lastQty = 0;
     double lastPx = 0;
+    zarvik::zkstring lastMkt;
     int leavesQty = 0;
     int cumQty = 0;
     double avgPx = 0;
+    double commission = 0;
     zarvik::DateTime tradeDate;
     zarvik::DateTime transactTime;
     zarvik::DateTime settlDate;

@@ -46,6 +46,9 @@ bool ExecutionReportParser::takeField(DataObject& body, Field& field, Tokenizer&
       if (!is44()) return false;
       report.setMaturityDate(date(report, ExecutionReport::MATURITY_DATE, field));
       return true;
+    case 207:
+      report.setSecurityExchange(text(report, ExecutionReport::SECURITY_EXCHANGE, field));
+      return true;
     case 54:
       report.setSide(character(report, ExecutionReport::SIDE, field));
       return true;
@@ -64,11 +67,18 @@ bool ExecutionReportParser::takeField(DataObject& body, Field& field, Tokenizer&
     case 59:
       report.setTimeInForce(character(report, ExecutionReport::TIME_IN_FORCE, field));
       return true;
+    case 528:
+      if (!is44()) return false;
+      report.setOrderCapacity(character(report, ExecutionReport::ORDER_CAPACITY, field));
+      return true;
     case 32:
       report.setLastQty(integer(report, ExecutionReport::LAST_QTY, field));
       return true;
     case 31:
       report.setLastPx(number(report, ExecutionReport::LAST_PX, field));
+      return true;
+    case 30:
+      report.setLastMkt(text(report, ExecutionReport::LAST_MKT, field));
       return true;
     case 151:
       report.setLeavesQty(integer(report, ExecutionReport::LEAVES_QTY, field));
@@ -78,6 +88,9 @@ bool ExecutionReportParser::takeField(DataObject& body, Field& field, Tokenizer&
       return true;
     case 6:
       report.setAvgPx(number(report, ExecutionReport::AVG_PX, field));
+      return true;
+    case 12:
+      report.setCommission(number(report, ExecutionReport::COMMISSION, field));
       return true;
     case 75:
       report.setTradeDate(date(report, ExecutionReport::TRADE_DATE, field));

@@ -8,14 +8,15 @@ using namespace zarvik;
 namespace orders {
 
 DataObjectMetaInfo* NewOrderSingle::metaInfo() {
-  static const char* const names[] = {"ClOrdID",          "Account",      "HandlInst", "Symbol",       "SecurityID",
-                                      "SecurityIDSource", "MaturityDate", "Side",      "TransactTime", "OrderQty",
-                                      "OrdType",          "Price",        "Currency",  "TimeInForce",  "SettlDate",
-                                      "TradeDate",        "Text",         "RawData",   "Allocs",       "Parties"};
-  static const char* const types[] = {"String",    "String",   "Character", "String",    "String",
-                                      "String",    "DateOnly", "Character", "DateTime",  "Integer",
-                                      "Character", "Double",   "String",    "Character", "DateOnly",
-                                      "DateOnly",  "String",   "Binary",    "Section",   "Section"};
+  static const char* const names[] = {
+      "ClOrdID",      "Account",      "HandlInst",        "Symbol",      "SecurityID",    "SecurityIDSource",
+      "MaturityDate", "SecurityType", "SecurityExchange", "Side",        "TransactTime",  "OrderQty",
+      "OrdType",      "Price",        "Currency",         "TimeInForce", "OrderCapacity", "SettlDate",
+      "TradeDate",    "Text",         "RawData",          "Allocs",      "Parties"};
+  static const char* const types[] = {"String",    "String", "Character", "String",    "String",    "String",
+                                      "DateOnly",  "String", "String",    "Character", "DateTime",  "Integer",
+                                      "Character", "Double", "String",    "Character", "Character", "DateOnly",
+                                      "DateOnly",  "String", "Binary",    "Section",   "Section"};
   struct Info : DataObjectMetaInfo {
     Info() : DataObjectMetaInfo(zkstringliteral("NewOrderSingle"), names, types, FIELD_COUNT) {
       getSectionMetaInfo(ALLOCS)->init(Portion::metaInfo(), 0, -1);
@@ -68,6 +69,10 @@ Object* NewOrderSingle::getField0(int index, Object* reuse) const {
       return box(values.securityIDSource, reuse);
     case MATURITY_DATE:
       return box(values.maturityDate, reuse);
+    case SECURITY_TYPE:
+      return box(values.securityType, reuse);
+    case SECURITY_EXCHANGE:
+      return box(values.securityExchange, reuse);
     case SIDE:
       return box(values.side, reuse);
     case TRANSACT_TIME:
@@ -82,6 +87,8 @@ Object* NewOrderSingle::getField0(int index, Object* reuse) const {
       return box(values.currency, reuse);
     case TIME_IN_FORCE:
       return box(values.timeInForce, reuse);
+    case ORDER_CAPACITY:
+      return box(values.orderCapacity, reuse);
     case SETTL_DATE:
       return box(values.settlDate, reuse);
     case TRADE_DATE:
@@ -115,6 +122,10 @@ void NewOrderSingle::setField0(int index, const Object* value) {
       return unbox(value, values.securityIDSource);
     case MATURITY_DATE:
       return unbox(value, values.maturityDate);
+    case SECURITY_TYPE:
+      return unbox(value, values.securityType);
+    case SECURITY_EXCHANGE:
+      return unbox(value, values.securityExchange);
     case SIDE:
       return unbox(value, values.side);
     case TRANSACT_TIME:
@@ -129,6 +140,8 @@ void NewOrderSingle::setField0(int index, const Object* value) {
       return unbox(value, values.currency);
     case TIME_IN_FORCE:
       return unbox(value, values.timeInForce);
+    case ORDER_CAPACITY:
+      return unbox(value, values.orderCapacity);
     case SETTL_DATE:
       return unbox(value, values.settlDate);
     case TRADE_DATE:

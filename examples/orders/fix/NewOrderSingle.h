@@ -20,6 +20,8 @@ class NewOrderSingle : public zarvik::AbstractDataObject {
     SECURITY_ID,
     SECURITY_ID_SOURCE,
     MATURITY_DATE,
+    SECURITY_TYPE,
+    SECURITY_EXCHANGE,
     SIDE,
     TRANSACT_TIME,
     ORDER_QTY,
@@ -27,6 +29,7 @@ class NewOrderSingle : public zarvik::AbstractDataObject {
     PRICE,
     CURRENCY,
     TIME_IN_FORCE,
+    ORDER_CAPACITY,
     SETTL_DATE,
     TRADE_DATE,
     TEXT,
@@ -68,6 +71,14 @@ class NewOrderSingle : public zarvik::AbstractDataObject {
   }
   const zarvik::DateTime& getMaturityDate() const { return ensureNotNull(MATURITY_DATE), values.maturityDate; }
   void setMaturityDate(const zarvik::DateTime& value) { setNotNull(MATURITY_DATE), values.maturityDate = value; }
+  const zarvik::zkstring& getSecurityType() const { return ensureNotNull(SECURITY_TYPE), values.securityType; }
+  void setSecurityType(const zarvik::zkstring& value) { setNotNull(SECURITY_TYPE), values.securityType = value; }
+  const zarvik::zkstring& getSecurityExchange() const {
+    return ensureNotNull(SECURITY_EXCHANGE), values.securityExchange;
+  }
+  void setSecurityExchange(const zarvik::zkstring& value) {
+    setNotNull(SECURITY_EXCHANGE), values.securityExchange = value;
+  }
   char getSide() const { return ensureNotNull(SIDE), values.side; }
   void setSide(char value) { setNotNull(SIDE), values.side = value; }
   const zarvik::DateTime& getTransactTime() const { return ensureNotNull(TRANSACT_TIME), values.transactTime; }
@@ -82,6 +93,8 @@ class NewOrderSingle : public zarvik::AbstractDataObject {
   void setCurrency(const zarvik::zkstring& value) { setNotNull(CURRENCY), values.currency = value; }
   char getTimeInForce() const { return ensureNotNull(TIME_IN_FORCE), values.timeInForce; }
   void setTimeInForce(char value) { setNotNull(TIME_IN_FORCE), values.timeInForce = value; }
+  char getOrderCapacity() const { return ensureNotNull(ORDER_CAPACITY), values.orderCapacity; }
+  void setOrderCapacity(char value) { setNotNull(ORDER_CAPACITY), values.orderCapacity = value; }
   const zarvik::DateTime& getSettlDate() const { return ensureNotNull(SETTL_DATE), values.settlDate; }
   void setSettlDate(const zarvik::DateTime& value) { setNotNull(SETTL_DATE), values.settlDate = value; }
   const zarvik::DateTime& getTradeDate() const { return ensureNotNull(TRADE_DATE), values.tradeDate; }
@@ -110,6 +123,8 @@ class NewOrderSingle : public zarvik::AbstractDataObject {
     zarvik::zkstring securityID;
     zarvik::zkstring securityIDSource;
     zarvik::DateTime maturityDate;
+    zarvik::zkstring securityType;
+    zarvik::zkstring securityExchange;
     char side = 0;
     zarvik::DateTime transactTime;
     int orderQty = 0;
@@ -117,6 +132,7 @@ class NewOrderSingle : public zarvik::AbstractDataObject {
     double price = 0;
     zarvik::zkstring currency;
     char timeInForce = 0;
+    char orderCapacity = 0;
     zarvik::DateTime settlDate;
     zarvik::DateTime tradeDate;
     zarvik::zkstring text;

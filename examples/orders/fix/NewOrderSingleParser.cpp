@@ -33,6 +33,12 @@ bool NewOrderSingleParser::takeField(DataObject& body, Field& field, Tokenizer& 
       if (!is44()) return false;
       order.setMaturityDate(date(order, NewOrderSingle::MATURITY_DATE, field));
       return true;
+    case 167:
+      order.setSecurityType(text(order, NewOrderSingle::SECURITY_TYPE, field));
+      return true;
+    case 207:
+      order.setSecurityExchange(text(order, NewOrderSingle::SECURITY_EXCHANGE, field));
+      return true;
     case 54:
       order.setSide(character(order, NewOrderSingle::SIDE, field));
       return true;
@@ -53,6 +59,10 @@ bool NewOrderSingleParser::takeField(DataObject& body, Field& field, Tokenizer& 
       return true;
     case 59:
       order.setTimeInForce(character(order, NewOrderSingle::TIME_IN_FORCE, field));
+      return true;
+    case 528:
+      if (!is44()) return false;
+      order.setOrderCapacity(character(order, NewOrderSingle::ORDER_CAPACITY, field));
       return true;
     case 64:
       order.setSettlDate(date(order, NewOrderSingle::SETTL_DATE, field));

@@ -23,6 +23,8 @@ void NewOrderSingleWriter::writeData(DataObject* data, TransformContext& /*conte
   if (order.isNotNull(NewOrderSingle::SECURITY_ID)) appendField("48", order.getSecurityID());
   if (order.isNotNull(NewOrderSingle::SECURITY_ID_SOURCE)) appendField("22", order.getSecurityIDSource());
   if (is44() && order.isNotNull(NewOrderSingle::MATURITY_DATE)) appendDate("541", order.getMaturityDate());
+  if (order.isNotNull(NewOrderSingle::SECURITY_TYPE)) appendField("167", order.getSecurityType());
+  if (order.isNotNull(NewOrderSingle::SECURITY_EXCHANGE)) appendField("207", order.getSecurityExchange());
   appendField("54", order.getSide());
   appendTimestamp("60", order.getTransactTime());
   appendField("38", order.getOrderQty());
@@ -30,6 +32,7 @@ void NewOrderSingleWriter::writeData(DataObject* data, TransformContext& /*conte
   if (order.isNotNull(NewOrderSingle::PRICE)) appendField("44", order.getPrice());
   if (order.isNotNull(NewOrderSingle::CURRENCY)) appendField("15", order.getCurrency());
   if (order.isNotNull(NewOrderSingle::TIME_IN_FORCE)) appendField("59", order.getTimeInForce());
+  if (is44() && order.isNotNull(NewOrderSingle::ORDER_CAPACITY)) appendField("528", order.getOrderCapacity());
   if (order.isNotNull(NewOrderSingle::SETTL_DATE)) appendDate("64", order.getSettlDate());
   if (order.isNotNull(NewOrderSingle::TRADE_DATE)) appendDate("75", order.getTradeDate());
   if (order.isNotNull(NewOrderSingle::TEXT)) appendField("58", order.getText());
