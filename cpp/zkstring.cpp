@@ -28,18 +28,22 @@ std::uint64_t wordAt(const char* bytes) {
   return word;
 }
 
-/// The position of the first byte in which `a` and `b` differ, `n` if they do not; eight bytes at a time.
+/// The position of the first byte in which `a` and `b` differ, `n` if they do not. Eight bytes at a time: the last
+/// eight begin among those before them, which are equal by then.
 unsigned int firstDifference(const char* a, const char* b, unsigned int n) {
   unsigned int i = 0;
-  for (; i + 8 <= n; i += 8) {
-    const std::uint64_t difference = wordAt(a + i) ^ wordAt(b + i);
-    if (difference == 0) continue;
-    const int bits =
-        std::endian::native == std::endian::little ? std::countr_zero(difference) : std::countl_zero(difference);
-    return i + static_cast<unsigned int>(bits) / 8;
+  if (n < 8) {
+    while (i < n && a[i] == b[i]) ++i;
+    return i;
   }
-  while (i < n && a[i] == b[i]) ++i;
-  return i;
+  for (;; i = std::min(i + 8, n - 8)) {
+    if (const std::uint64_t difference = wordAt(a + i) ^ wordAt(b + i)) {
+      const int bits =
+          std::endian::native == std::endian::little ? std::countr_zero(difference) : std::countl_zero(difference);
+      return i + static_cast<unsigned int>(bits) / 8;
+    }
+    if (i == n - 8) return n;
+  }
 }
 
 const char* findByte(const char* from, const char* end, char byte) {
