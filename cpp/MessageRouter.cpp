@@ -7,6 +7,7 @@
 #include "Exceptions.h"
 #include "LookupContextFactory.h"
 #include "MessageHeaderAdapter.h"
+#include "PropertyLookup.h"
 #include "Stamped.h"
 #include "ThrowFrom.h"
 #include "TransformContext.h"
@@ -35,15 +36,6 @@ class ReadOnceHeader : public MessageHeaderAdapter {
   std::optional<zkstring> version;
   std::optional<zkstring> type;
 };
-
-/// The name of the row's input format; empty if it has none. A row has few properties, and most differ in length:
-/// looking through them is quicker than the ordered search.
-const zkstring& inputFormatNameOf(const Properties& contextProperties) {
-  for (const auto& [name, value] : contextProperties) {
-    if (name == TransformContext::INPUT_FORMAT_PROPERTY) return value;
-  }
-  return zkstring::EMPTY;
-}
 }  // namespace
 
 MessageRouter::MessageRouter(MessageIdentificationService* service)
@@ -86,8 +78,8 @@ MessageConfiguration* MessageRouter::getMessageConfiguration(InputSource& source
 
 void MessageRouter::processMessage(InputSource& source, TransformContext& context) const {
   const Properties& contextProperties = getMessageConfiguration(source)->getContextProperties();
-  const zkstring& inputFormatName = inputFormatNameOf(contextProperties);
-  if (inputFormatName.empty()) {
+  const zkstring* const inputFormatName = findProperty(contextProperties, TransformContext::INPUT_FORMAT_PROPERTY);
+  if (inputFormatName == nullptr || inputFormatName->empty()) {
     throwFrom(here, TransformException(TransformContext::INPUT_FORMAT_PROPERTY +
                                        " property cannot be empty in the message configuration"));
   }
@@ -95,7 +87,7 @@ void MessageRouter::processMessage(InputSource& source, TransformContext& contex
   stamped([](TransformException& error) { error.setSeverity(fatal); },
           [&] {
             for (const auto& [name, value] : contextProperties) context.setProperty(name, value);
-            resolveInputFormat(inputFormatName).processInput(source, context);
+            resolveInputFormat(*inputFormatName).processInput(source, context);
           });
 }
 

@@ -2,6 +2,7 @@
 
 #include "Exceptions.h"
 #include "IOutputContextImpl.h"
+#include "PropertyLookup.h"
 #include "ThrowFrom.h"
 
 namespace zarvik {
@@ -100,9 +101,7 @@ ObjectPtrMap<Object>& TransformContext::getObjectPropertyMap() {
 }
 
 const zkstring* TransformContext::findProperty(const zkstring& name) const {
-  if (propertyMap.isNull()) return nullptr;
-  const auto entry = propertyMap->find(name);
-  return entry != propertyMap->end() ? &entry->second : nullptr;
+  return propertyMap.isNull() ? nullptr : zarvik::findProperty(*propertyMap, name);
 }
 
 void TransformContextWrapper::setProperty(const zkstring& name, const zkstring& value) {
