@@ -104,6 +104,14 @@ const zkstring* TransformContext::findProperty(const zkstring& name) const {
   return propertyMap.isNull() ? nullptr : zarvik::findProperty(*propertyMap, name);
 }
 
+void TransformContextWrapper::setTransformContext(TransformContext* context) {
+  if (!context->leadsTo(*this)) transformContext = context;
+}
+
+bool TransformContextWrapper::leadsTo(const TransformContext& other) const {
+  return this == &other || transformContext->leadsTo(other);
+}
+
 void TransformContextWrapper::setProperty(const zkstring& name, const zkstring& value) {
   TransformContext::setProperty(name, value);
 }

@@ -76,6 +76,10 @@ class TransformContext : public Object {
   class Texts : public ObjectRef, public Properties {};
   class Objects : public ObjectRef, public ObjectPtrMap<Object> {};
 
+  friend class TransformContextWrapper;
+  /// Whether a question to this context may come to `other`.
+  virtual bool leadsTo(const TransformContext& other) const { return this == &other; }
+
   SmartPtr<Texts> propertyMap;
   SmartPtr<Objects> objectPropertyMap;
   SmartPtr<IOutputContext> outputContext;
@@ -93,7 +97,9 @@ class TransformContextWrapper : public TransformContext {
   constexpr TransformContextWrapper(TransformContext* context) : transformContext(context) {}  ///< not null
 
   TransformContext* getTransformContext() { return transformContext; }
-  void setTransformContext(TransformContext* context) { transformContext = context; }  ///< not null, nor the wrapper
+  /// `context` is not null. One that leads back to the wrapper is ignored: a route may come to the same trigger again
+  /// within one call, and the wrapper then keeps what it wraps.
+  void setTransformContext(TransformContext* context);
 
   void setProperty(const zkstring& name, const zkstring& value) override;
   zkstring getProperty(const zkstring& name) override;
@@ -102,6 +108,8 @@ class TransformContextWrapper : public TransformContext {
   void clear() override;
 
  private:
+  bool leadsTo(const TransformContext& other) const override;
+
   TransformContext* transformContext;
 };
 

@@ -102,6 +102,11 @@ TEST(TransformContextWrapper, overlaysTextsAlone) {
   EXPECT_EQ(assigned.getProperty("a"), "over");
   EXPECT_EQ(assigned.getTransformContext(), &context);
 
+  assigned.setTransformContext(&wrapper);
+  for (TransformContextWrapper* again : {&wrapper, &assigned}) wrapper.setTransformContext(again);
+  EXPECT_EQ(wrapper.getTransformContext(), &context);  // and nobody goes in circles
+  assigned.setTransformContext(&context);
+
   wrapper.clear();
   EXPECT_EQ(wrapper.getProperty("a"), "over");
   EXPECT_EQ(wrapper.getProperty("b"), "");
