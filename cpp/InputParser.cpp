@@ -9,12 +9,13 @@ namespace {
 
 constexpr char here[] = "cpp/InputParser";
 
-zkstring nameOf(const DataObject& object, int index) {
+zkstring nameOf(const DataObject* object, int index) {
   try {
-    return object.getFieldName(index);
+    if (object != nullptr) return object->getFieldName(index);
   } catch (const Exception&) {
-    throwFrom(here, FieldParsingException("Null value error while parsing a field"));
+    // Told below, as without an object.
   }
+  throwFrom(here, FieldParsingException("Null value error while parsing a field"));
 }
 }  // namespace
 
@@ -29,7 +30,7 @@ ExternalObject* InputParser::parse(InputSource& source, TransformContext& contex
 void InputParser::ensureNotNull0(const zkstring& value, DataObject* object, int index,
                                  TransformContext& /*context*/) const {
   if (!value.empty()) return;
-  const zkstring name = nameOf(*object, index);
+  const zkstring name = nameOf(object, index);
   throwFrom(here, FieldParsingException("Field '" + name + "' cannot be null.", name));
 }
 

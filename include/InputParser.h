@@ -25,7 +25,7 @@ class InputParser : public Object {
   void setExceptionHandler(ExceptionHandler* handler) { exceptionHandler = handler; }
 
   /// Throws FieldParsingException "Field '<name>' cannot be null.", with the name of the field at `index` of `object`,
-  /// when `value` is empty.
+  /// when `value` is empty; "Null value error while parsing a field" when there is no such field, or no object.
   void ensureNotNull0(const zkstring& value, DataObject* object, int index, TransformContext& context) const;
 
  protected:
