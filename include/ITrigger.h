@@ -19,7 +19,8 @@ class ITrigger : public ICustomClass {
   virtual void setContext(TriggerContext* context) = 0;  ///< outlives the trigger, which it owns
   virtual void onBatchStart(TransformContext& context) = 0;
   virtual void onBatchEnd(TransformContext& context) = 0;
-  virtual Object* execute(Properties& properties) = 0;  ///< runs it on demand, without a message
+  /// Runs it on demand, without a message. The result, which may be null, is the caller's.
+  virtual Object* execute(Properties& properties) = 0;
 };
 
 }  // namespace zarvik

@@ -25,8 +25,8 @@ class Triggers {
 
   void onNewMessage(DataObject* message, TransformContext& context) { onNewMessage0(message, context); }
 
-  /// Runs the on-demand trigger that fits `properties`. By default there is none: throws TransformException "No
-  /// on-demand trigger matching the condition specified".
+  /// Runs the on-demand trigger that fits `properties`; its result is the caller's. By default there is none: throws
+  /// TransformException "No on-demand trigger matching the condition specified".
   virtual Object* invokeTrigger(Properties& properties);
 
  protected:
