@@ -8,6 +8,7 @@
 #include "FromCatalogue.h"
 #include "SectionObject.h"
 #include "ThrowFrom.h"
+#include "XMLFields.h"
 
 namespace zarvik {
 namespace {
@@ -71,7 +72,30 @@ void AbstractDataObject::throwNullValueException(int index) const {
 }
 
 void AbstractDataObject::setField0(int index, const Object* /*value*/) { throwOutOfBounds(index); }
-Object* AbstractDataObject::getField0(int index, Object* /*reuse*/) const { throwOutOfBounds(index); }
+
+Object* AbstractDataObject::getField0(int index, Object* reuse) const {
+  if (dynamic_cast<XMLFields*>(reuse) != nullptr) return nullptr;  // which then asks for a box
+  throwOutOfBounds(index);
+}
+
 Object* AbstractDataObject::getField0(int index) const { return getField0(index, nullptr); }
+
+zkstring AbstractDataObject::toXMLStringImpl(int level) {
+  const int count = getFieldCount();
+  XMLFields out(level, count);
+  for (int i = 0; i < count; ++i) {
+    if (isNotNull(i)) writeField(i, out);
+  }
+  return out.text();
+}
+
+/// Most classes put the value straight into `out`; those that only box are asked for the box.
+void AbstractDataObject::writeField(int index, XMLFields& out) const {
+  out.beginField(*metaInfo->getFieldMetaInfo(index));
+  Object* const given = getField0(index, &out);
+  if (given == &out) return;
+  const SmartPtr<Object> value(given != nullptr ? given : getField0(index));
+  if (!value.isNull()) out.setObject(value.get());
+}
 
 }  // namespace zarvik

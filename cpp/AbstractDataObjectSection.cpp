@@ -61,7 +61,7 @@ zkstring AbstractDataObjectSection::toXMLString(int level) const {
 
 zkstring AbstractDataObjectSection::toXMLString(const zkstring& tag, int level) const {
   zkstringbuffer out;
-  appendXML(out, tag, level);
+  appendXML(out, XMLTag(tag), level);
   return out;
 }
 

@@ -11,29 +11,12 @@
 #include "Parsing.h"
 #include "SectionObject.h"
 #include "ThrowFrom.h"
+#include "XMLFields.h"
 
 namespace zarvik {
 namespace {
 
 constexpr char here[] = "cpp/DataObjectBase";
-
-void appendTag(zkstringbuffer& out, int level, const char* open, const zkstring& tag) {
-  DataObjectXML::appendIndent(out, level);
-  out.append(open).append(tag).append(">\n", 2);
-}
-
-void appendField(zkstringbuffer& out, int level, const FieldMetaInfo& field, Object* value) {
-  const zkstring& tag = field.getMangledName();
-  DataObjectXML::appendIndent(out, level);
-  out.append('<').append(tag).append('>');
-  out.append(DataObjectXML::fixXMLCharData(Parsing::runtimeObjectToString(value, field.getType())));
-  out.append("</", 2).append(tag).append(">\n", 2);
-}
-
-/// `value` as a section, null when it is none: for most values the type word tells, at a fraction of a cast's cost.
-const SectionObject* sectionOf(const Object* value) {
-  return value->getObjectType() == KelvaraTypes::SECTION_TYPE ? dynamic_cast<const SectionObject*>(value) : nullptr;
-}
 
 void copySection(const DataObjectSection& source, DataObjectSection& target) {
   target.clear();
@@ -87,21 +70,10 @@ zkstring DataObjectBase::getQualifiedName(int index) {
 
 int DataObjectBase::getFieldCount() const { return getMetaInfo()->getFieldCount(); }
 
-zkstring DataObjectBase::toXMLString() {
-  zkstringbuffer out;
-  appendTag(out, 0, "<", getRootXMLTag());
-  out.append(toXMLStringImpl(1));
-  appendTag(out, 0, "</", getRootXMLTag());
-  return out;
-}
+zkstring DataObjectBase::toXMLString() { return withinRootTag(1); }
 
 zkstring DataObjectBase::toXMLString(int level) {
-  if (getParentSection() != nullptr) return toXMLStringImpl(level);
-  zkstringbuffer out;
-  appendTag(out, level - 1, "<", getRootXMLTag());
-  out.append(toXMLStringImpl(level));
-  appendTag(out, level - 1, "</", getRootXMLTag());
-  return out;
+  return getParentSection() != nullptr ? toXMLStringImpl(level) : withinRootTag(level);
 }
 
 DataObject* DataObjectBase::getRootDataObject() const {
@@ -150,7 +122,7 @@ void DataObjectBase::copy(const DataObject* source, DataObject* target) {
     const SmartPtr<Object> field(source->getField(i));
     if (field.isNull()) {
       target->setNull(i);
-    } else if (const SectionObject* const section = sectionOf(field.get())) {
+    } else if (const SectionObject* const section = SectionObject::of(field.get())) {
       copySection(*section->getSection(), *target->getSection(i));
     } else {
       target->setField(i, field.get());
@@ -166,22 +138,24 @@ DataObject* DataObjectBase::createSectionElement(const zkstring& /*sectionName*/
 }
 
 zkstring DataObjectBase::toXMLStringImpl(int level) {
-  constexpr unsigned int usualField = 32;  // bytes; growing step by step would cost more than the text
-  const DataObjectMetaInfo& described = *getMetaInfo();
-  const int count = getFieldCount();
-  zkstringbuffer out;
-  out.reserve(usualField * static_cast<unsigned int>(count));
-  for (int i = 0; i < count; ++i) {
+  XMLFields out(level, getFieldCount());
+  for (int i = 0; i < getFieldCount(); ++i) {
     if (isNull(i)) continue;
     const SmartPtr<Object> value(getField(i));
     if (value.isNull()) continue;
-    const FieldMetaInfo& field = *described.getFieldMetaInfo(i);
-    if (const SectionObject* const section = sectionOf(value.get())) {
-      section->getSection()->appendXML(out, field.getMangledName(), level);
-    } else {
-      appendField(out, level, field, value.get());
-    }
+    out.beginField(*getMetaInfo()->getFieldMetaInfo(i));
+    out.setObject(value.get());
   }
+  return out.text();
+}
+
+zkstring DataObjectBase::withinRootTag(int level) {
+  zkstringbuffer out;
+  DataObjectXML::appendTag(out, level - 1, "<", getRootXMLTag());
+  const zkstring fields = toXMLStringImpl(level);
+  out.getTail(std::size_t{fields.length()} + out.length() + 1);  // room for both tags
+  out.append(fields);
+  DataObjectXML::appendTag(out, level - 1, "</", getRootXMLTag());
   return out;
 }
 

@@ -1,9 +1,15 @@
 #include "DataObjectSection.h"
 
 #include "DataObject.h"
-#include "DataObjectXML.h"
+#include "XMLTag.h"
 
 namespace zarvik {
+namespace {
+
+void append(zkstringbuffer& out, std::string_view text) {
+  out.append(text.data(), static_cast<unsigned int>(text.size()));
+}
+}  // namespace
 
 void DataObjectSection::assign(DataObjectSection* target, DataObjectSection* source) {
   target->clear();
@@ -14,13 +20,13 @@ void DataObjectSection::assign(DataObjectSection* target, DataObjectSection* sou
   }
 }
 
-void DataObjectSection::appendXML(zkstringbuffer& out, const zkstring& tag, int level) const {
-  for (int i = 0; i < getElementCount(); ++i) {
-    DataObjectXML::appendIndent(out, level);
-    out.append('<').append(tag).append(">\n", 2);
+void DataObjectSection::appendXML(zkstringbuffer& out, const XMLTag& tag, int level) const {
+  const unsigned int depth = DataObjectXML::depth(level);
+  const int count = getElementCount();
+  for (int i = 0; i < count; ++i) {
+    append(out, tag.beginLine(depth));
     out.append(getElement(i)->toXMLString(level + 1));
-    DataObjectXML::appendIndent(out, level);
-    out.append("</", 2).append(tag).append(">\n", 2);
+    append(out, tag.endLine(depth));
   }
 }
 

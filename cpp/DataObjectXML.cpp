@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
+#include <cstring>
 
 #include "Conversion.h"
 
@@ -37,6 +39,29 @@ const char* nameOf(char c) {
   }
 }
 
+bool allPlain(const char* begin, const char* end) {
+  return std::all_of(begin, end, [](char c) { return kindOf(c) == Kind::PLAIN; });
+}
+
+std::uint64_t wordAt(const char* bytes) {
+  std::uint64_t word;
+  std::memcpy(&word, bytes, sizeof word);
+  return word;
+}
+
+/// Whether the eight bytes are printing characters of ASCII that stand for themselves. True of most texts; what fails
+/// here is looked at byte by byte. The top bit of a byte is set in a difference that went below 0, and in bytes
+/// above ASCII.
+bool isPlain(std::uint64_t word) {
+  constexpr std::uint64_t each = 0x0101010101010101;
+  const auto anyZero = [](std::uint64_t bytes) { return (bytes - each) & ~bytes; };
+  const std::uint64_t controls = word - each * ' ';
+  const std::uint64_t brackets = anyZero((word | each * 2) ^ each * '>');  // '<' and '>'
+  const std::uint64_t ampersand = anyZero((word | each) ^ each * '\'');    // '&' and the apostrophe
+  const std::uint64_t quotes = anyZero(word ^ each * '"');
+  return ((word | controls | brackets | ampersand | quotes) & each * 0x80) == 0;
+}
+
 void appendEscaped(zkstringbuffer& out, char c, bool replaceQuotes) {
   const Kind kind = kindOf(c);
   if (kind == Kind::NUMBERED) {
@@ -51,24 +76,27 @@ void appendEscaped(zkstringbuffer& out, char c, bool replaceQuotes) {
 }
 }  // namespace
 
-void DataObjectXML::appendIndent(zkstringbuffer& out, int level) {
-  constexpr char tabs[] =
-      "\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t";
-  constexpr unsigned int deepest = sizeof tabs - 1;
-  static_assert(deepest == 52);
-  out.append(tabs, std::min(static_cast<unsigned int>(level), deepest));
+void DataObjectXML::appendTag(zkstringbuffer& out, int level, const char* begin, const zkstring& tag) {
+  appendIndent(out, level);
+  out.append(begin).append(tag).append(">\n", 2);
 }
 
 bool DataObjectXML::hasNonXMLCharacters(const zkstring& text) {
-  return std::any_of(text.data(), text.data() + text.length(), [](char c) { return kindOf(c) != Kind::PLAIN; });
+  const char* at = text.data();
+  const char* const end = at + text.length();
+  if (text.length() < 8) return !allPlain(at, end);
+  const char* const lastWord = end - 8;  // may overlap the one before
+  for (; at < lastWord; at += 8) {
+    if (!isPlain(wordAt(at)) && !allPlain(at, at + 8)) return true;
+  }
+  return !isPlain(wordAt(lastWord)) && !allPlain(lastWord, end);
 }
 
-zkstring DataObjectXML::replaceXMLEntities(const zkstring& text, bool replaceQuotes) {
-  if (!hasNonXMLCharacters(text)) return text;
-  zkstringbuffer escaped;
-  escaped.reserve(text.length() + 16);
-  for (unsigned int i = 0; i < text.length(); ++i) appendEscaped(escaped, text[i], replaceQuotes);
-  return escaped;
+zkstring DataObjectXML::escaped(const zkstring& text, bool replaceQuotes) {
+  zkstringbuffer out;
+  out.reserve(text.length() + 16);
+  for (unsigned int i = 0; i < text.length(); ++i) appendEscaped(out, text[i], replaceQuotes);
+  return out;
 }
 
 }  // namespace zarvik

@@ -10,13 +10,6 @@
 #include "Parsing.h"
 
 namespace zarvik {
-namespace {
-
-void appendLine(zkstringbuffer& out, int level, const char* begin, const zkstring& tag) {
-  DataObjectXML::appendIndent(out, level);
-  out.append(begin).append(tag).append(">\n");
-}
-}  // namespace
 
 constinit const zkstringliteral ExceptionDataObject::THIS_TYPE("TransformException");
 
@@ -84,13 +77,13 @@ Object* ExceptionDataObject::clone() const { return new ExceptionDataObject(*thi
 
 zkstring ExceptionDataObject::toXMLString(int indent) {
   zkstringbuffer out;
-  appendLine(out, indent, "<", THIS_TYPE);
+  DataObjectXML::appendTag(out, indent, "<", THIS_TYPE);
   out.append(toXMLStringImpl(indent + 1));
   for (const auto& [name, value] : contextProperties) {
     DataObjectXML::appendIndent(out, indent + 1);
     out.append('<').append(name).append('>').append(value).append("</").append(name).append(">\n");
   }
-  appendLine(out, indent, "</", THIS_TYPE);
+  DataObjectXML::appendTag(out, indent, "</", THIS_TYPE);
   return out;
 }
 

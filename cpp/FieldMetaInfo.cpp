@@ -3,6 +3,7 @@
 #include "DataObjectMetaInfo.h"
 #include "Exceptions.h"
 #include "KelvaraTypes.h"
+#include "Parsing.h"
 #include "ThrowFrom.h"
 #include "zkstringbuffer.h"
 
@@ -15,12 +16,16 @@ constexpr bool isLetter(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && 
 constexpr bool isLetterOrDigit(char c) { return isLetter(c) || (c >= '0' && c <= '9'); }
 }  // namespace
 
+FieldMetaInfo::FieldMetaInfo(const zkstring& name, const zkstring& type, bool optional, bool synthesized)
+    : name(name), type(type), optional(optional), synthesized(synthesized), storedForm(Parsing::hasStoredForm(type)) {}
+
 FieldMetaInfo::FieldMetaInfo(const FieldMetaInfo& other)
     : Object(),
       name(other.name),
       type(other.type),
       optional(other.optional),
       synthesized(other.synthesized),
+      storedForm(other.storedForm),
       index(other.index) {}
 
 void FieldMetaInfo::setIndex(int position) {
@@ -28,12 +33,10 @@ void FieldMetaInfo::setIndex(int position) {
   index = position;
 }
 
-const zkstring& FieldMetaInfo::getMangledName() const {
-  if (mangledName.empty()) {
-    const zkstring computed = computeMangledName(name);
-    mangledName = computed == name ? name : computed;  // the name itself may be a literal, free for all threads
-  }
-  return mangledName;
+void FieldMetaInfo::mangle() const {
+  const zkstring computed = computeMangledName(name);
+  mangledName = computed == name ? name : computed;  // the name itself may be a literal, free for all threads
+  tag = XMLTag(mangledName);
 }
 
 zkstring FieldMetaInfo::computeMangledName(const zkstring& name) {

@@ -176,6 +176,11 @@ zkstring Parsing::runtimeObjectToString(Object* object, const zkstring& type) {
   return object->toString();
 }
 
+bool Parsing::hasStoredForm(const zkstring& type) {
+  return type == KelvaraTypes::DATE_TIME_TYPE || type == KelvaraTypes::TIME_ONLY_TYPE ||
+         type == KelvaraTypes::DATE_ONLY_TYPE || type == KelvaraTypes::BINARY_TYPE;
+}
+
 Object* Parsing::toRawMessageTypeObject(Object* object) {
   if (const auto* const bytes = dynamic_cast<BinaryObject*>(object)) return new ByteArrayInputSource(bytes->getValue());
   if (const auto* const text = dynamic_cast<StringObject*>(object)) return new StringInputSource(text->getValue());

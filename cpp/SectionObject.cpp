@@ -1,11 +1,18 @@
 #include "SectionObject.h"
 
+#include <typeinfo>
+
 #include "GuardedCast.h"
 #include "KelvaraTypes.h"
 
 namespace zarvik {
 
 SectionObject::SectionObject(const DataObjectSection& section) : section(const_cast<DataObjectSection*>(&section)) {}
+
+const SectionObject* SectionObject::of(const Object* value) {
+  if (typeid(*value) == typeid(SectionObject)) return static_cast<const SectionObject*>(value);
+  return value->getObjectType() == KelvaraTypes::SECTION_TYPE ? dynamic_cast<const SectionObject*>(value) : nullptr;
+}
 
 SectionObject& SectionObject::operator=(const SectionObject& other) {
   setSection(other.section);

@@ -46,7 +46,7 @@ void zkstringbuffer::reserve(unsigned int n) {
   if (n > capacity()) grow(n - capacity());
 }
 
-void zkstringbuffer::grow(unsigned int extra) {
+void zkstringbuffer::grow(std::size_t extra) {
   const std::size_t needed = std::size_t{count} + extra;
   if (array != nullptr && needed < array->length()) {  // roomy, but the text is a view into the middle of the block
     std::memmove(start(), pointer, count);

@@ -4,6 +4,8 @@
 
 namespace zarvik {
 
+class XMLFields;
+
 /// The base of records with typed members: the generated ones and the library's own.
 ///
 /// A class below this has an array of flags, one for each field, true where the field has a value; it hands the array
@@ -73,7 +75,11 @@ class AbstractDataObject : public DataObjectBase {
   virtual Object* getField0(int index, Object* reuse) const;
   virtual Object* getField0(int index) const;  ///< by default the form above without `reuse`
 
+  zkstring toXMLStringImpl(int level) override;
+
  private:
+  void writeField(int index, XMLFields& out) const;
+
   DataObjectSection* parentSection;
   bool* flags;
   DataObjectMetaInfo* metaInfo;

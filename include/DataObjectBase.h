@@ -60,6 +60,9 @@ class DataObjectBase : public DataObject {
   /// How an error names the field: by its qualified name, or failing that by what is left of "at index " behind its
   /// first `index` characters, odd on purpose.
   zkstring nameForError(int index) const;
+
+ private:
+  zkstring withinRootTag(int level);  ///< the fields at `level`, the tag at one less
 };
 
 }  // namespace zarvik

@@ -5,6 +5,7 @@
 namespace zarvik {
 
 class DataObject;
+class XMLTag;
 class zkstringbuffer;
 
 /// The least that can be asked of an ordered collection of records. Positions count from 0.
@@ -49,7 +50,7 @@ class DataObjectSection : public DataObjectCollection {
   static void assign(DataObjectSection* target, DataObjectSection* source);
 
   /// The elements as XML, each within `tag` at `level` tabs.
-  void appendXML(zkstringbuffer& out, const zkstring& tag, int level) const;
+  void appendXML(zkstringbuffer& out, const XMLTag& tag, int level) const;
 };
 
 }  // namespace zarvik

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Object.h"
+#include "XMLTag.h"
 
 namespace zarvik {
 
@@ -13,13 +14,14 @@ class DataObjectMetaInfo;
 class FieldMetaInfo : public Object {
  public:
   /// `name` may hold any character; `type` is a word of KelvaraTypes, or any other. The index is -1 until `setIndex`.
-  FieldMetaInfo(const zkstring& name, const zkstring& type, bool optional, bool synthesized = false)
-      : name(name), type(type), optional(optional), synthesized(synthesized) {}
+  FieldMetaInfo(const zkstring& name, const zkstring& type, bool optional, bool synthesized = false);
   FieldMetaInfo(const FieldMetaInfo& other);  ///< without the mangled name, which is computed anew
   FieldMetaInfo& operator=(const FieldMetaInfo& other) = default;
 
   const zkstring& getName() const { return name; }
   const zkstring& getType() const { return type; }
+  /// Whether the stored form of a value of this type differs from its `toString`: that of dates and bytes.
+  bool hasStoredForm() const { return storedForm; }
   bool isOptional() const { return optional; }  ///< odd on purpose: see SectionMetaInfo
   /// Whether the field serves the format's own machinery and is no part of the message proper.
   bool isSynthesized() const { return synthesized; }
@@ -29,7 +31,15 @@ class FieldMetaInfo : public Object {
 
   /// The name as an XML tag and an identifier. Computed by the first call, which a DataObjectMetaInfo makes for all
   /// its fields.
-  const zkstring& getMangledName() const;
+  const zkstring& getMangledName() const {
+    if (mangledName.empty()) [[unlikely]]
+      mangle();
+    return mangledName;
+  }
+  const XMLTag& getXMLTag() const {  ///< of the mangled name
+    getMangledName();
+    return tag;
+  }
   /// `name` with "_" for all but letters, digits and "_", and "F" before what does not begin with a letter or "_":
   /// "1st Leg" gives "F1st_Leg".
   static zkstring computeMangledName(const zkstring& name);
@@ -37,12 +47,16 @@ class FieldMetaInfo : public Object {
   FieldMetaInfo* clone() const override;
 
  private:
+  void mangle() const;
+
   zkstring name;
   zkstring type;
   bool optional;
   bool synthesized;
+  bool storedForm;
   int index = -1;
   mutable zkstring mangledName;
+  mutable XMLTag tag;
 };
 
 /// A field that is a repeating group, or a nested object, which is a group of at most one element.

@@ -96,6 +96,8 @@ class Parsing {
   /// The stored form of `object`: dates in the fashion of ISO 8601, with milliseconds only where there are some, bytes
   /// as hexadecimal, all others by `toString`. For the words of dates and bytes the object is of that kind.
   static zkstring runtimeObjectToString(Object* object, const zkstring& type);
+  /// Whether values of the type have a stored form that differs from their `toString`: dates and bytes.
+  static bool hasStoredForm(const zkstring& type);
 
   static Object* toBinaryTypeObject(Object* object) { return object; }  ///< odd on purpose: whatever it is given
   /// Of a BinaryObject or StringObject a new raw message, with count 0, that shares its value; all else as it is.

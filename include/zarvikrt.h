@@ -134,6 +134,7 @@
 #include "ValidationRules.h"
 #include "WildcardFilter.h"
 #include "WrapperObjects.h"
+#include "XMLTag.h"
 #include "date/Date.h"
 #include "date/DateStr.h"
 #include "date/DateTime.h"

@@ -57,6 +57,14 @@ class zkstringbuffer : public zkstring {
 
   /// Adds what the capacity lacks of `n` on top of the length; this does not promise room for n more characters.
   void reserve(unsigned int n);
+
+  /// For writers of text: the end of the text, with room for `n` more characters; `setBufferLength` then tells how many
+  /// there are in all.
+  char* getTail(std::size_t n) {
+    ensureFree(n);
+    return start() + count;
+  }
+
   void clear() { count = 0; }  ///< keeps the block
 
   char& operator[](unsigned int i) { return getMutableBuffer()[i]; }
@@ -66,14 +74,14 @@ class zkstringbuffer : public zkstring {
   char* start() const { return array->getPtr(); }
 
   /// Whether the text stands at the start of a block with room for `extra` more characters and a terminator.
-  bool hasRoom(unsigned int extra) const {
+  bool hasRoom(std::size_t extra) const {
     return array != nullptr && pointer == start() && std::size_t{count} + extra < array->length();
   }
 
-  void ensureFree(unsigned int extra) {
+  void ensureFree(std::size_t extra) {
     if (!hasRoom(extra)) grow(extra);
   }
-  void grow(unsigned int extra);  ///< brings the text to the block's start, in a larger block if the rule asks for it
+  void grow(std::size_t extra);  ///< brings the text to the block's start, in a larger block if the rule asks for it
   zkstringbuffer& appendGrowing(const char* bytes, unsigned int length);
   bool holds(const char* bytes) const;  ///< whether the address lies in this buffer's block
 

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "DataObjectXML.h"
+
+namespace zarvik {
+
+/// The tag of a field, prepared so that each piece of it is one copy, indentation included. Depths are numbers of tabs,
+/// at most `DataObjectXML::deepest`.
+class XMLTag {
+ public:
+  XMLTag() = default;
+  explicit XMLTag(const zkstring& name);
+
+  std::string_view begin(unsigned int depth) const { return of(opening, depth, 1); }
+  std::string_view end() const { return of(closing, 0, 0); }
+  // As lines of their own.
+  std::string_view beginLine(unsigned int depth) const { return of(opening, depth, 0); }
+  std::string_view endLine(unsigned int depth) const { return of(closing, depth, 0); }
+
+ private:
+  /// The end of `text` from `depth` tabs on, but for its last bytes.
+  static std::string_view of(const std::string& text, unsigned int depth, unsigned int without) {
+    const std::size_t skipped = DataObjectXML::deepest - depth;
+    return {text.data() + skipped, text.size() - skipped - without};
+  }
+
+  std::string opening;  ///< all tabs and "<Name>\n"
+  std::string closing;  ///< all tabs and "</Name>\n"
+};
+
+}  // namespace zarvik
