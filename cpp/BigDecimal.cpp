@@ -25,23 +25,14 @@ zkstring BigDecimal::toString() const { return fixedPointText(cval(), decimals(*
 const char* BigDecimal::toString(char* out) const { return writeFixedPoint(out, cval(), decimals(*this)); }
 
 BigDecimal operator+(const BigDecimal& a, const BigDecimal& b) {
-  BigDecimal result;
-  m_apm_add(result.val(), a.cval(), b.cval());
-  return result;
+  return BigDecimal(BigDecimal::resultOf<m_apm_add>(a, b));
 }
-
 BigDecimal operator-(const BigDecimal& a, const BigDecimal& b) {
-  BigDecimal result;
-  m_apm_subtract(result.val(), a.cval(), b.cval());
-  return result;
+  return BigDecimal(BigDecimal::resultOf<m_apm_subtract>(a, b));
 }
-
 BigDecimal operator*(const BigDecimal& a, const BigDecimal& b) {
-  BigDecimal result;
-  m_apm_multiply(result.val(), a.cval(), b.cval());
-  return result;
+  return BigDecimal(BigDecimal::resultOf<m_apm_multiply>(a, b));
 }
-
 BigDecimal operator/(const BigDecimal& a, const BigDecimal& b) { return BigDecimal(a.divide(b)); }
 BigDecimal operator%(const BigDecimal& a, const BigDecimal& b) { return BigDecimal(a.rem(b)); }
 

@@ -17,23 +17,14 @@ zkstring BigInteger::toString() const { return fixedPointText(cval(), 0); }
 const char* BigInteger::toString(char* out) const { return writeFixedPoint(out, cval(), 0); }
 
 BigInteger operator+(const BigInteger& a, const BigInteger& b) {
-  BigInteger result;
-  m_apm_add(result.val(), a.cval(), b.cval());
-  return result;
+  return BigInteger(BigInteger::resultOf<m_apm_add>(a, b));
 }
-
 BigInteger operator-(const BigInteger& a, const BigInteger& b) {
-  BigInteger result;
-  m_apm_subtract(result.val(), a.cval(), b.cval());
-  return result;
+  return BigInteger(BigInteger::resultOf<m_apm_subtract>(a, b));
 }
-
 BigInteger operator*(const BigInteger& a, const BigInteger& b) {
-  BigInteger result;
-  m_apm_multiply(result.val(), a.cval(), b.cval());
-  return result;
+  return BigInteger(BigInteger::resultOf<m_apm_multiply>(a, b));
 }
-
 BigInteger operator/(const BigInteger& a, const BigInteger& b) { return BigInteger(a.divide(b).round(0)); }
 BigInteger operator%(const BigInteger& a, const BigInteger& b) { return BigInteger(a.rem(b)); }
 

@@ -94,18 +94,11 @@ MAPM MAPM::divide(const MAPM& other, int digits) const {
   return result;
 }
 
-MAPM MAPM::integer_divide(const MAPM& other) const {
-  MAPM result;
-  m_apm_integer_divide(result.val(), cval(), other.cval());
-  return result;
-}
+MAPM MAPM::integer_divide(const MAPM& other) const { return resultOf<m_apm_integer_divide>(*this, other); }
 
 void MAPM::integer_div_rem(const MAPM& other, MAPM& quotient, MAPM& remainder) const {
   MAPM whole = integer_divide(other);
-  MAPM product;
-  MAPM rest;
-  m_apm_multiply(product.val(), whole.cval(), other.cval());
-  m_apm_subtract(rest.val(), cval(), product.cval());
+  MAPM rest = resultOf<m_apm_subtract>(*this, resultOf<m_apm_multiply>(whole, other));
   quotient = static_cast<MAPM&&>(whole);
   remainder = static_cast<MAPM&&>(rest);
 }
@@ -117,11 +110,7 @@ MAPM MAPM::rem(const MAPM& other) const {
   return remainder;
 }
 
-MAPM& MAPM::operator++() {
-  MAPM sum;
-  m_apm_add(sum.val(), cval(), MAPM(1).cval());
-  return *this = static_cast<MAPM&&>(sum);
-}
+MAPM& MAPM::operator++() { return *this = resultOf<m_apm_add>(*this, MAPM(1)); }
 
 MAPM MAPM::operator++(int) {
   MAPM before = *this;

@@ -150,7 +150,8 @@ int scaleToFront(Word first, Word* b, int nb) {
 
 /// The product of two numbers of n words each.
 template <int n>
-void multiplySame(M_APM_struct* result, const M_APM_struct* a, const M_APM_struct* b, long long exponent, int sign) {
+[[gnu::noinline]] void multiplySame(M_APM_struct* result, const M_APM_struct* a, const M_APM_struct* b,
+                                    long long exponent, int sign) {
   Word first[n];
   Word second[n];
   Word product[2 * n];

@@ -21,34 +21,46 @@ struct Block {
   alignas(16) unsigned char digits[blockBytes + spareBytes];
 };
 
+/// The blocks that wait to be used again, at most `limit` of them.
+struct Pool {
+  Block* first;
+  int count;
+  int limit;
+};
 // Plain thread-local data without constructors: usable from any static initialiser and until the very end.
-constinit thread_local Block* pool = nullptr;
-constinit thread_local int pooled = 0;
+constinit thread_local Pool pool = {};
 
 Block* nextOf(const Block* block) { return reinterpret_cast<Block*>(block->record.data); }
 
-/// Gives the pool back when its thread ends; numbers that go later are freed one by one.
+/// Opens the thread's pool, and gives it back when the thread ends; numbers that go later are freed one by one.
 struct Drain {
+  Drain() { pool.limit = poolLimit; }
   ~Drain() {
-    pooled = poolLimit;  // full for good
-    while (pool != nullptr) {
-      Block* const block = pool;
-      pool = nextOf(block);
+    while (pool.first != nullptr) {
+      Block* const block = pool.first;
+      pool.first = nextOf(block);
       ::operator delete(block);
     }
+    pool = {};
   }
 };
 
-void drainAtThreadEnd() { [[maybe_unused]] static thread_local const Drain drain; }
+void openPool() { [[maybe_unused]] static thread_local const Drain drain; }
 
 Block* newBlock() { return static_cast<Block*>(zarvik::mapm::allocate(sizeof(Block), "'m_apm_init', Out of memory")); }
 
 Block* pooledBlock() {
-  Block* const block = pool;
+  Block* const block = pool.first;
   if (block == nullptr) return newBlock();
-  pool = nextOf(block);
-  --pooled;
+  pool.first = nextOf(block);
+  --pool.count;
   return block;
+}
+
+void intoPool(Block* block) {
+  block->record.data = reinterpret_cast<unsigned char*>(pool.first);
+  pool.first = block;
+  ++pool.count;
 }
 
 bool isSmall(const M_APM_struct* number) { return number->data == reinterpret_cast<const Block*>(number)->digits; }
@@ -66,16 +78,25 @@ M_APM_struct* m_apm_init() {
   return &block->record;
 }
 
-void m_apm_free(M_APM_struct* number) {
+namespace {
+
+/// The end of a number that the pool does not take as it is.
+[[gnu::noinline]] void freeOtherwise(M_APM_struct* number) {
   if (number->id != M_APM_IDENT) return M_apm_log_error_msg(false, "'m_apm_free', Invalid M_APM variable");
   number->id = 0;
   if (!isSmall(number)) ::operator delete(number->data);
   Block* const block = reinterpret_cast<Block*>(number);
-  if (pooled >= poolLimit) return ::operator delete(block);
-  if (pool == nullptr) drainAtThreadEnd();  // here, since a thread may free what another one made
-  number->data = reinterpret_cast<unsigned char*>(pool);
-  pool = block;
-  ++pooled;
+  openPool();  // here, since a thread may free what another one made
+  if (pool.count >= pool.limit) return ::operator delete(block);
+  intoPool(block);
+}
+}  // namespace
+
+void m_apm_free(M_APM_struct* number) {
+  const bool isUsual = number->id == M_APM_IDENT && isSmall(number) && pool.count < pool.limit;
+  if (!isUsual) return freeOtherwise(number);
+  number->id = 0;
+  intoPool(reinterpret_cast<Block*>(number));
 }
 
 void m_apm_copy(M_APM_struct* result, const M_APM_struct* a) {

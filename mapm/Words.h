@@ -112,28 +112,17 @@ inline void fromWords(M_APM_struct* result, const Word* words, int count, long l
   normalise(result, 8 * (count - low), exponent, sign);
 }
 
-/// value / base, with the rest in `rest`, for value < 2^64 * base: by the base's reciprocal instead of a division
-/// (Moeller and Granlund, "Improved division by invariant integers").
+/// value / base, with the rest in `rest`, for value < 2^115: the top 63 bits times the base's reciprocal are the
+/// quotient or, together 0.96 too low at most, one less.
 inline Word divideByBase(DoubleWord value, Word& rest) {
-  constexpr int shift = 10;
-  constexpr Word divisor = base << shift;
-  static_assert(divisor >> 63 == 1);
-  constexpr Word reciprocal = static_cast<Word>(~DoubleWord{0} / divisor);  // less 2^64
-  value <<= shift;
-  const Word low = static_cast<Word>(value);
-  DoubleWord q = DoubleWord{reciprocal} * static_cast<Word>(value >> 64) + value;
-  Word quotient = static_cast<Word>(q >> 64) + 1;
-  Word r = low - quotient * divisor;
-  if (r > static_cast<Word>(q)) {
-    --quotient;
-    r += divisor;
-  }
-  if (r >= divisor) [[unlikely]] {
-    ++quotient;
-    r -= divisor;
-  }
-  rest = r >> shift;
-  return quotient;
+  constexpr int shift = 52;
+  constexpr Word reciprocal = static_cast<Word>((DoubleWord{1} << (64 + shift)) / base);
+  const Word top = (static_cast<Word>(value >> 64) << (64 - shift)) + (static_cast<Word>(value) >> shift);
+  const Word quotient = static_cast<Word>(DoubleWord{reciprocal} * top >> 64);
+  const Word r = static_cast<Word>(value) - quotient * base;
+  const Word more = r >= base ? 1 : 0;
+  rest = r - more * base;
+  return quotient + more;
 }
 
 /// out = a * b in na + nb words; `out` is neither operand. Both counts are at least 1.

@@ -168,6 +168,14 @@ class MAPM {
     number = record;
   }
 
+  /// What a routine of the kernel makes of two numbers, which throws nothing.
+  template <void (*routine)(M_APM_struct*, const M_APM_struct*, const M_APM_struct*)>
+  static MAPM resultOf(const MAPM& a, const MAPM& b) {
+    M_APM_struct* const result = makeNew();
+    routine(result, a.cval(), b.cval());
+    return MAPM(result);
+  }
+
   /// The record for writing: this handle's own, copied first when it is shared.
   M_APM_struct* val();
   /// The record for reading.
