@@ -126,16 +126,15 @@ void multiplyPieces(Word* out, const Word* a, int na, const Word* b, int nb) {
   }
 }
 
-/// sign * a * b / base^2 * 10^exponent; both fractions begin with a digit other than 0.
-void multiplyOneWord(M_APM_struct* result, Word a, Word b, long long exponent, int sign) {
-  DoubleWord product = DoubleWord{a} * b;
+/// sign * product / base^2 * 10^exponent; both fractions of the product begin with a digit other than 0.
+void multiplyOneWord(M_APM_struct* result, DoubleWord product, long long exponent, int sign) {
   if (product < DoubleWord{base / 10} * base) {  // brings the first digit to the front
     product *= 10;
     --exponent;
   }
   Word low;
   const Word high = divideByBase(product, low);
-  storeWords(makeRoom(result, 16), high, low);
+  storeWords(smallRoom(result), high, low);
   normalise(result, 16, exponent, sign);
 }
 
@@ -203,7 +202,7 @@ void m_apm_multiply(M_APM_struct* result, const M_APM_struct* a, const M_APM_str
   const long long exponent = static_cast<long long>(a->exponent) + b->exponent;
   const int sign = a->sign * b->sign;
   if (a->dataLength <= wordDigits && b->dataLength <= wordDigits) {
-    return multiplyOneWord(result, wordOf(loadLow(a->data)), wordOf(loadLow(b->data)), exponent, sign);
+    return multiplyOneWord(result, firstProduct(a, b), exponent, sign);
   }
   const int na = wordCount(a);
   const int nb = wordCount(b);

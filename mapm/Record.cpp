@@ -9,7 +9,6 @@
 
 namespace {
 
-constexpr int firstBytes = 80;   ///< of a new record
 constexpr int blockBytes = 208;  ///< to which it grows in place
 constexpr int spareBytes = 16;   ///< that may be read and written, but count for nothing
 constexpr int poolLimit = 256;
@@ -21,20 +20,20 @@ struct Block {
   alignas(16) unsigned char digits[blockBytes + spareBytes];
 };
 
-/// The blocks that wait to be used again, at most `limit` of them.
+/// The blocks that wait to be used again, with room for so many more.
 struct Pool {
   Block* first;
-  int count;
-  int limit;
+  int room;
 };
-// Plain thread-local data without constructors: usable from any static initialiser and until the very end.
-constinit thread_local Pool pool = {};
+// Plain thread-local data without constructors: usable from any static initialiser and until the very end. It is found
+// without a call in a shared library, too.
+[[gnu::tls_model("initial-exec")]] constinit thread_local Pool pool = {};
 
 Block* nextOf(const Block* block) { return reinterpret_cast<Block*>(block->record.data); }
 
 /// Opens the thread's pool, and gives it back when the thread ends; numbers that go later are freed one by one.
 struct Drain {
-  Drain() { pool.limit = poolLimit; }
+  Drain() { pool.room = poolLimit; }
   ~Drain() {
     while (pool.first != nullptr) {
       Block* const block = pool.first;
@@ -53,14 +52,14 @@ Block* pooledBlock() {
   Block* const block = pool.first;
   if (block == nullptr) return newBlock();
   pool.first = nextOf(block);
-  --pool.count;
+  ++pool.room;
   return block;
 }
 
 void intoPool(Block* block) {
   block->record.data = reinterpret_cast<unsigned char*>(pool.first);
   pool.first = block;
-  ++pool.count;
+  --pool.room;
 }
 
 bool isSmall(const M_APM_struct* number) { return number->data == reinterpret_cast<const Block*>(number)->digits; }
@@ -74,7 +73,7 @@ void M_apm_log_error_msg(bool fatal, const char* message) {
 M_APM_struct* m_apm_init() {
   Block* const block = pooledBlock();
   std::memset(block->digits, 0, 16);
-  block->record = {block->digits, M_APM_IDENT, 1, firstBytes, 1, 0, 0};
+  block->record = {block->digits, M_APM_IDENT, 1, zarvik::mapm::leastRoom, 1, 0, 0};
   return &block->record;
 }
 
@@ -87,13 +86,13 @@ namespace {
   if (!isSmall(number)) ::operator delete(number->data);
   Block* const block = reinterpret_cast<Block*>(number);
   openPool();  // here, since a thread may free what another one made
-  if (pool.count >= pool.limit) return ::operator delete(block);
+  if (pool.room <= 0) return ::operator delete(block);
   intoPool(block);
 }
 }  // namespace
 
 void m_apm_free(M_APM_struct* number) {
-  const bool isUsual = number->id == M_APM_IDENT && isSmall(number) && pool.count < pool.limit;
+  const bool isUsual = number->id == M_APM_IDENT && isSmall(number) && pool.room > 0;
   if (!isUsual) return freeOtherwise(number);
   number->id = 0;
   intoPool(reinterpret_cast<Block*>(number));

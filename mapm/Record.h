@@ -36,6 +36,14 @@ inline void storeLow(void* bytes, std::uint64_t word) {
 /// Memory for `bytes` bytes, to be freed with `operator delete`; without it the program ends with `message`.
 void* allocate(std::size_t bytes, const char* message);
 
+constexpr int leastRoom = 80;  ///< bytes, of every record
+
+/// Digits for up to `leastRoom` bytes with their padding; the old digits are lost.
+inline unsigned char* smallRoom(M_APM_struct* number) {
+  assert(number->refCount == 1 && number->mallocLength >= leastRoom);
+  return number->data;
+}
+
 unsigned char* makeLargeRoom(M_APM_struct* number, int bytes);  // `bytes` with their padding
 
 /// Digits for `bytes` bytes and their padding; the old digits are lost. Never fails, but may end the process.

@@ -84,21 +84,40 @@ inline void storeWords(unsigned char* out, Word first, Word second) {
 
 #endif
 
+#ifdef __SSE2__
+
+/// Sixteen base-100 bytes, the first lowest, as two words, the first one low: neighbours are joined in both at once.
+inline __m128i twoWordsOf(__m128i pairs) {
+  const __m128i first = _mm_mullo_epi16(_mm_and_si128(pairs, _mm_set1_epi16(0xFF)), factor(100));
+  const __m128i fours = _mm_add_epi16(first, _mm_srli_epi16(pairs, 8));
+  const __m128i eights = _mm_madd_epi16(fours, _mm_set1_epi32(0x00012710));  // 10000 and 1
+  return _mm_add_epi64(_mm_mul_epu32(eights, _mm_set1_epi64x(100000000)), _mm_srli_epi64(eights, 32));
+}
+
+#endif
+
 /// The digits of `a` as a fraction: its value is words / base^count * 10^exponent.
 inline void toWords(Word* out, const M_APM_struct* a, int count) {
   int i = 0;
 #ifdef __SSE2__
-  const __m128i hundred = factor(100);
   for (; i + 2 <= count; i += 2) {
-    const __m128i pairs = _mm_loadu_si128(reinterpret_cast<const __m128i*>(a->data + 8 * i));
-    const __m128i first = _mm_mullo_epi16(_mm_and_si128(pairs, _mm_set1_epi16(0xFF)), hundred);
-    const __m128i fours = _mm_add_epi16(first, _mm_srli_epi16(pairs, 8));
-    const __m128i eights = _mm_madd_epi16(fours, _mm_set1_epi32(0x00012710));  // 10000 and 1
-    const __m128i words = _mm_add_epi64(_mm_mul_epu32(eights, _mm_set1_epi64x(100000000)), _mm_srli_epi64(eights, 32));
+    const __m128i words = twoWordsOf(_mm_loadu_si128(reinterpret_cast<const __m128i*>(a->data + 8 * i)));
     _mm_storeu_si128(reinterpret_cast<__m128i*>(out + count - 2 - i), _mm_shuffle_epi32(words, 0x4E));
   }
 #endif
   for (; i < count; ++i) out[count - 1 - i] = wordOf(loadLow(a->data + 8 * i));
+}
+
+/// The product of the first words of both.
+inline DoubleWord firstProduct(const M_APM_struct* a, const M_APM_struct* b) {
+#ifdef __SSE2__
+  const auto half = [](const M_APM_struct* x) { return _mm_loadl_epi64(reinterpret_cast<const __m128i*>(x->data)); };
+  const __m128i words = twoWordsOf(_mm_unpacklo_epi64(half(a), half(b)));
+  const auto low = static_cast<Word>(_mm_cvtsi128_si64(words));
+  return DoubleWord{low} * static_cast<Word>(_mm_cvtsi128_si64(_mm_unpackhi_epi64(words, words)));
+#else
+  return DoubleWord{wordOf(loadLow(a->data))} * wordOf(loadLow(b->data));
+#endif
 }
 
 /// sign * words / base^count * 10^exponent
