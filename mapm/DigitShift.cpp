@@ -1,6 +1,6 @@
 #include "DigitShift.h"
 
-#include "Factor.h"
+#include "Lanes.h"
 #include "Record.h"
 
 // Two digits share a byte, so that a move by one digit takes every byte apart. Sixteen or eight bytes at a time.
@@ -10,17 +10,6 @@ namespace zarvik::mapm {
 #ifdef __SSE2__
 
 namespace {
-
-__m128i load(const unsigned char* bytes) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes)); }
-void store(unsigned char* out, __m128i bytes) { _mm_storeu_si128(reinterpret_cast<__m128i*>(out), bytes); }
-
-/// Of each byte. A tenth of the pair serves the second byte: what the first one adds does not reach its tens.
-__m128i tensOf(__m128i pairs) {
-  const __m128i tenth = _mm_set1_epi16(6554);  // of 2^16
-  const __m128i first = _mm_mulhi_epu16(_mm_and_si128(pairs, _mm_set1_epi16(0xFF)), tenth);
-  const __m128i second = _mm_and_si128(_mm_mulhi_epu16(pairs, tenth), _mm_set1_epi16(-0x100));
-  return _mm_or_si128(first, second);
-}
 
 /// Each byte's units and the tens of the one behind it; the last byte lacks these. Products of digits keep to their
 /// bytes.

@@ -40,7 +40,7 @@ bool subtractMultiple(Word* u, Word q, const Word* d, int n) {
   Word carry = 0;
   for (int i = 0; i < n; ++i) {
     Word low;
-    carry = divideByBase(DoubleWord{q} * d[i] + carry, low);
+    carry = carryOn(DoubleWord{q} * d[i], carry, low);
     const bool borrow = u[i] < low;
     u[i] = u[i] - low + (borrow ? base : 0);
     carry += borrow ? 1 : 0;

@@ -21,16 +21,6 @@ DoubleWord column(const Word* a, const Word* b, int n) {
   return sum;
 }
 
-/// One column becomes a word; the carry to the next one is returned. The slow division does not wait for the carry.
-Word carryOn(DoubleWord column, Word carry, Word& out) {
-  Word rest;
-  const Word quotient = divideByBase(column, rest);
-  rest += carry;
-  const Word more = rest / base;
-  out = rest - more * base;
-  return quotient + more;
-}
-
 /// Carries the columns on: afterwards each is a word.
 void carryColumns(Word* out, const DoubleWord* columns, int n) {
   Word carry = 0;
@@ -64,7 +54,7 @@ template <int n>
 void multiplyFixed(Word* out, const Word* a, const Word* b) {
   Word carry = 0;
 #pragma GCC unroll 16
-  for (int k = 0; k < 2 * n - 1; ++k) carry = divideByBase(fixedColumn<n>(a, b, k) + carry, out[k]);
+  for (int k = 0; k < 2 * n - 1; ++k) carry = carryOn(fixedColumn<n>(a, b, k), carry, out[k]);
   out[2 * n - 1] = carry;
 }
 
@@ -133,7 +123,7 @@ void multiplyOneWord(M_APM_struct* result, DoubleWord product, long long exponen
     --exponent;
   }
   Word low;
-  const Word high = divideByBase(product, low);
+  const Word high = carryOn(product, 0, low);
   storeWords(smallRoom(result), high, low);
   normalise(result, 16, exponent, sign);
 }

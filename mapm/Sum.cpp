@@ -1,9 +1,7 @@
 #include <algorithm>
-#ifdef __SSE2__
-#include <emmintrin.h>
-#endif
 
 #include "DigitShift.h"
+#include "Lanes.h"
 #include "Record.h"
 
 // Addition and subtraction, in base 100 as the digits lie, sixteen bytes at a time.
@@ -20,8 +18,6 @@ struct Digits {
 Digits plain(const M_APM_struct* a) { return {a->data, byteCount(a)}; }
 
 #ifdef __SSE2__
-
-__m128i load(const unsigned char* bytes) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes)); }
 
 /// a + b
 struct Adder {
@@ -76,7 +72,7 @@ class Chain {
   __m128i combine(int i, __m128i a, __m128i b, __m128i nextA, __m128i nextB) {
     const __m128i in = Operation::carries(nextA, nextB);
     const __m128i sum = Operation::settle(Operation::apply(Operation::raw(a, b), in));
-    _mm_storeu_si128(reinterpret_cast<__m128i*>(out + i), sum);
+    store(out + i, sum);
     return Operation::missed(sum, in);
   }
   void carryOn(int i, int missed) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Factor.h"
+#include "Lanes.h"
 #include "Record.h"
 
 /// Whole numbers as rows of words to the base 10^16, the lowest word first: what products and quotients are computed
@@ -62,8 +62,8 @@ inline void storeWords(unsigned char* out, Word first, Word second) {
   };
   const __m128i fours = _mm_packs_epi32(fourDigits(eightDigits(first)), fourDigits(eightDigits(second)));
   const __m128i top = _mm_srli_epi16(_mm_mulhi_epu16(fours, _mm_set1_epi16(5243)), 3);
-  const __m128i rest = _mm_sub_epi16(fours, _mm_mullo_epi16(top, factor(100)));
-  _mm_storeu_si128(reinterpret_cast<__m128i*>(out), _mm_or_si128(top, _mm_slli_epi16(rest, 8)));
+  const __m128i bytes = _mm_sub_epi16(_mm_slli_epi16(fours, 8), _mm_mullo_epi16(top, factor(25599)));
+  store(out, bytes);  // rest * 256 + top in each lane
 }
 
 #else
@@ -101,8 +101,8 @@ inline void toWords(Word* out, const M_APM_struct* a, int count) {
   int i = 0;
 #ifdef __SSE2__
   for (; i + 2 <= count; i += 2) {
-    const __m128i words = twoWordsOf(_mm_loadu_si128(reinterpret_cast<const __m128i*>(a->data + 8 * i)));
-    _mm_storeu_si128(reinterpret_cast<__m128i*>(out + count - 2 - i), _mm_shuffle_epi32(words, 0x4E));
+    const __m128i words = twoWordsOf(load(a->data + 8 * i));
+    store(out + count - 2 - i, _mm_shuffle_epi32(words, 0x4E));
   }
 #endif
   for (; i < count; ++i) out[count - 1 - i] = wordOf(loadLow(a->data + 8 * i));
@@ -131,16 +131,21 @@ inline void fromWords(M_APM_struct* result, const Word* words, int count, long l
   normalise(result, 8 * (count - low), exponent, sign);
 }
 
-/// value / base, with the rest in `rest`, for value < 2^115: the top 63 bits times the base's reciprocal are the
-/// quotient or, together 0.96 too low at most, one less.
-inline Word divideByBase(DoubleWord value, Word& rest) {
+/// value / base or one less, for value < 2^115: the top 63 bits times the base's reciprocal are 0.96 too low at most.
+inline Word estimateByBase(DoubleWord value) {
   constexpr int shift = 52;
   constexpr Word reciprocal = static_cast<Word>((DoubleWord{1} << (64 + shift)) / base);
   const Word top = (static_cast<Word>(value >> 64) << (64 - shift)) + (static_cast<Word>(value) >> shift);
-  const Word quotient = static_cast<Word>(DoubleWord{reciprocal} * top >> 64);
-  const Word r = static_cast<Word>(value) - quotient * base;
-  const Word more = r >= base ? 1 : 0;
-  rest = r - more * base;
+  return static_cast<Word>(DoubleWord{reciprocal} * top >> 64);
+}
+
+/// A sum of products below 2^115 and the carry of the one before become a word; the carry to the next one is returned.
+/// The slow division does not wait for the carry, and what it may lack the quick one makes up for.
+inline Word carryOn(DoubleWord column, Word carry, Word& out) {
+  const Word quotient = estimateByBase(column);
+  const Word rest = static_cast<Word>(column) - quotient * base + carry;
+  const Word more = rest / base;
+  out = rest - more * base;
   return quotient + more;
 }
 

@@ -2,6 +2,7 @@
 #include <charconv>
 #include <cstdlib>
 
+#include "Lanes.h"
 #include "Record.h"
 
 // The text forms: fixed point, whole number, scientific.
@@ -9,29 +10,44 @@
 namespace zarvik::mapm {
 namespace {
 
-/// Four base-100 bytes, first lowest, as eight characters.
-std::uint64_t charsOf(std::uint32_t bytes) {
-  std::uint64_t lanes = bytes;
-  lanes = (lanes | lanes << 16) & 0x0000FFFF0000FFFF;
-  lanes = (lanes | lanes << 8) & 0x00FF00FF00FF00FF;
-  const std::uint64_t tens = (lanes * 103 >> 10) & 0x000F000F000F000F;
-  return (lanes << 8) - tens * 2559 + 0x3030303030303030;  // units * 256 + tens in each lane
+constexpr int blockDigits = 32;
+
+#ifdef __SSE2__
+
+/// The 32 digits of 16 base-100 bytes.
+void putBlock(char* out, const unsigned char* bytes) {
+  const __m128i pairs = load(bytes);
+  const __m128i tens = tensOf(pairs);
+  const __m128i units = _mm_sub_epi8(pairs, _mm_mullo_epi16(tens, factor(10)));
+  const __m128i zeros = _mm_set1_epi8('0');
+  store(out, _mm_add_epi8(_mm_unpacklo_epi8(tens, units), zeros));
+  store(out + 16, _mm_add_epi8(_mm_unpackhi_epi8(tens, units), zeros));
 }
 
-std::uint32_t loadHalf(const unsigned char* bytes) {
-  std::uint32_t word;
-  std::memcpy(&word, bytes, sizeof word);
-  return std::endian::native == std::endian::little ? word : __builtin_bswap32(word);
+#else
+
+/// The 32 digits of 16 base-100 bytes.
+void putBlock(char* out, const unsigned char* bytes) {
+  for (int i = 0; i < 16; ++i) {
+    out[2 * i] = static_cast<char>('0' + bytes[i] / 10);
+    out[2 * i + 1] = static_cast<char>('0' + bytes[i] % 10);
+  }
 }
 
-/// Writes the digits from `from` to before `to`, both within the number.
+#endif
+
+/// Writes the digits from `from` to before `to`, both within the number: blocks may go beyond the number, and are cut.
 char* putDigits(char* out, const M_APM_struct* a, int from, int to) {
-  if (from >= to) return out;
-  if (from % 2 != 0) *out++ = static_cast<char>('0' + digitAt(a, from++));
-  for (; to - from >= 8; from += 8, out += 8) storeLow(out, charsOf(loadHalf(a->data + from / 2)));
-  char rest[8];
-  storeLow(rest, charsOf(from < to ? loadHalf(a->data + from / 2) : 0));  // the padding makes this readable
-  return std::copy(rest, rest + (to - from), out);
+  while (from < to) {
+    char block[blockDigits];
+    putBlock(block, a->data + from / 2);
+    const int skipped = from % 2;
+    const int count = std::min(blockDigits - skipped, to - from);
+    std::memcpy(out, block + skipped, static_cast<std::size_t>(count));
+    from += count;
+    out += count;
+  }
+  return out;
 }
 
 char* putZeros(char* out, long long count) { return count > 0 ? std::fill_n(out, count, '0') : out; }
