@@ -1,4 +1,5 @@
-// Decimal arithmetic and its texts, beside Boost's cpp_dec_float of the fitting width where that is installed.
+// Decimal arithmetic and its texts, beside Boost's cpp_dec_float of the fitting width where that is installed. Products
+// are exact, so that their peer has twice the operands' width; the peer "cut" keeps the upper half of each product.
 #include <random>
 #include <string>
 #include <vector>
@@ -50,18 +51,23 @@ struct Operands {
   std::size_t at = 0;
 };
 
+template <class Number, class Operation>
+void each(const std::string& subject, const char* who, const std::vector<std::string>& texts, Operation operation) {
+  measure(subject, who, [operands = Operands<Number>(texts), operation]() mutable {
+    operands.step();
+    return Number(operation(operands.a(), operands.b()));
+  });
+}
+
+template <class Number>
+void multiplication(const std::string& digits, const char* who, const std::vector<std::string>& texts) {
+  each<Number>(subject("multiply, ", digits), who, texts, [](const auto& a, const auto& b) { return a * b; });
+}
+
 template <class Number>
 void arithmetic(const std::string& digits, const char* who, const std::vector<std::string>& texts) {
-  Operands<Number> operands(texts);
-  const auto each = [&](const char* name, auto operation) {
-    measure(subject(name, digits), who, [operands, operation]() mutable {
-      operands.step();
-      return Number(operation(operands.a(), operands.b()));
-    });
-  };
-  each("add, ", [](const Number& a, const Number& b) { return a + b; });
-  each("multiply, ", [](const Number& a, const Number& b) { return a * b; });
-  each("divide, ", [](const Number& a, const Number& b) { return a / b; });
+  each<Number>(subject("add, ", digits), who, texts, [](const auto& a, const auto& b) { return a + b; });
+  each<Number>(subject("divide, ", digits), who, texts, [](const auto& a, const auto& b) { return a / b; });
   measure(subject("from text, ", digits), who, [texts, at = std::size_t{0}]() mutable {
     at = (at + 1) % pairs;
     return Number(texts[at].c_str());
@@ -77,9 +83,14 @@ void textOfOurs(const std::string& digits, const std::vector<std::string>& texts
 
 #ifdef HAS_BOOST_DECIMALS
 template <unsigned Digits>
+using BoostDecimal = boost::multiprecision::number<boost::multiprecision::cpp_dec_float<Digits>>;
+
+template <unsigned Digits>
 void peer(const std::string& digits, const std::vector<std::string>& texts) {
-  using Number = boost::multiprecision::number<boost::multiprecision::cpp_dec_float<Digits>>;
+  using Number = BoostDecimal<Digits>;
   arithmetic<Number>(digits, "cpp_dec_float", texts);
+  multiplication<BoostDecimal<2 * Digits>>(digits, "cpp_dec_float", texts);
+  multiplication<Number>(digits, "cpp_dec_float cut", texts);
   measure(subject("to text, ", digits), "cpp_dec_float", [operands = Operands<Number>(texts)]() mutable {
     operands.step();
     return operands.a().str(0, std::ios_base::fixed);
@@ -95,6 +106,7 @@ void operationsOn() {
   const std::vector<std::string> texts = randomTexts(Digits);
   const std::string digits = std::to_string(Digits).append(" digits");
   arithmetic<BigDecimal>(digits, ours, texts);
+  multiplication<BigDecimal>(digits, ours, texts);
   textOfOurs(digits, texts);
   if constexpr (Digits <= 1000) peer<Digits>(digits, texts);  // its numbers lie on the stack
 }

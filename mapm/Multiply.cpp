@@ -122,10 +122,11 @@ void multiplyOneWord(M_APM_struct* result, DoubleWord product, long long exponen
     product *= 10;
     --exponent;
   }
-  Word low;
-  const Word high = carryOn(product, 0, low);
-  storeWords(smallRoom(result), high, low);
-  normalise(result, 16, exponent, sign);
+  const Word high = estimateByBase(product);
+  const Word low = static_cast<Word>(product) - high * base;
+  const Word more = low >= base ? 1 : 0;
+  storeWords(smallRoom(result), high + more, low - more * base);
+  finish(result, 16, exponent, sign);
 }
 
 /// Takes one operand ten times where the product would begin with a 0: moving all its digits later costs more. Tells

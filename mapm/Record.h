@@ -69,11 +69,10 @@ inline void pad(unsigned char* data, int bytes) { std::memset(data + bytes, 0, 1
 void settleLeadingZeros(M_APM_struct* number, int bytes, long long exponent, int sign);  // for `normalise`
 void refuseExponent(M_APM_struct* number);                                               // for `normalise`
 
-/// Makes the `bytes` base-100 digits in `number->data`, which are padded with zeros, a normal number of the value
-/// sign * 0.digits * 10^exponent.
-inline void normalise(M_APM_struct* number, int bytes, long long exponent, int sign) {
+/// Makes the `bytes` base-100 digits in `number->data`, which begin with a digit other than 0 and are padded with
+/// zeros, a normal number of the value sign * 0.digits * 10^exponent.
+inline void finish(M_APM_struct* number, int bytes, long long exponent, int sign) {
   const unsigned char* const data = number->data;
-  if (data[0] < 10) return settleLeadingZeros(number, bytes, exponent, sign);
   if (exponent != static_cast<int>(exponent) || exponent == std::numeric_limits<int>::min()) {
     return refuseExponent(number);
   }
@@ -84,6 +83,12 @@ inline void normalise(M_APM_struct* number, int bytes, long long exponent, int s
   number->dataLength = static_cast<int>(2 * (end - data)) - (end[-1] % 10 == 0 ? 1 : 0);
   number->exponent = static_cast<int>(exponent);
   number->sign = sign;
+}
+
+/// The same for digits that may begin with zeros.
+inline void normalise(M_APM_struct* number, int bytes, long long exponent, int sign) {
+  if (number->data[0] < 10) return settleLeadingZeros(number, bytes, exponent, sign);
+  finish(number, bytes, exponent, sign);
 }
 
 /// The first `keep` digits of `a`, half away from zero. `keep` may be anything: from the length on, a copy.
