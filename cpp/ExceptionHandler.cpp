@@ -1,5 +1,7 @@
 #include "ExceptionHandler.h"
 
+#include <memory>
+
 #include "Exceptions.h"
 #include "GuardedCast.h"
 #include "ThrowFrom.h"
@@ -30,7 +32,9 @@ void DraconianExceptionHandler::onException(ExceptionDataObject* exception) {
 }
 
 void CascadingExceptionHandler::onException(ExceptionDataObject* exception) {
-  exceptions.push_back(guardedCast<ExceptionDataObject>(exception->clone()));
+  std::unique_ptr<ExceptionDataObject> entry(guardedCast<ExceptionDataObject>(exception->clone()));
+  exceptions.push_back(entry.get());
+  entry.release();
 }
 
 }  // namespace zarvik
