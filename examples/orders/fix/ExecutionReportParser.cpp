@@ -8,118 +8,121 @@ namespace orders {
 
 DataObject* ExecutionReportParser::createBody() const { return new ExecutionReport; }
 
-bool ExecutionReportParser::takeField(DataObject& body, Field& field, Tokenizer& tokenizer) {
+void ExecutionReportParser::parseBody(DataObject& body, Tokenizer& tokenizer) {
   auto& report = static_cast<ExecutionReport&>(body);
-  switch (field.getTag()) {
-    case 37:
-      report.setOrderID(text(report, ExecutionReport::ORDER_ID, field));
-      return true;
-    case 11:
-      report.setClOrdID(text(report, ExecutionReport::CL_ORD_ID, field));
-      return true;
-    case 17:
-      report.setExecID(text(report, ExecutionReport::EXEC_ID, field));
-      return true;
-    case 20:
-      if (is44()) return false;
-      report.setExecTransType(character(report, ExecutionReport::EXEC_TRANS_TYPE, field));
-      return true;
-    case 150:
-      report.setExecType(character(report, ExecutionReport::EXEC_TYPE, field));
-      return true;
-    case 39:
-      report.setOrdStatus(character(report, ExecutionReport::ORD_STATUS, field));
-      return true;
-    case 1:
-      report.setAccount(text(report, ExecutionReport::ACCOUNT, field));
-      return true;
-    case 55:
-      report.setSymbol(text(report, ExecutionReport::SYMBOL, field));
-      return true;
-    case 48:
-      report.setSecurityID(text(report, ExecutionReport::SECURITY_ID, field));
-      return true;
-    case 22:
-      report.setSecurityIDSource(text(report, ExecutionReport::SECURITY_ID_SOURCE, field));
-      return true;
-    case 541:
-      if (!is44()) return false;
-      report.setMaturityDate(date(report, ExecutionReport::MATURITY_DATE, field));
-      return true;
-    case 207:
-      report.setSecurityExchange(text(report, ExecutionReport::SECURITY_EXCHANGE, field));
-      return true;
-    case 54:
-      report.setSide(character(report, ExecutionReport::SIDE, field));
-      return true;
-    case 38:
-      report.setOrderQty(integer(report, ExecutionReport::ORDER_QTY, field));
-      return true;
-    case 40:
-      report.setOrdType(character(report, ExecutionReport::ORD_TYPE, field));
-      return true;
-    case 44:
-      report.setPrice(number(report, ExecutionReport::PRICE, field));
-      return true;
-    case 15:
-      report.setCurrency(text(report, ExecutionReport::CURRENCY, field));
-      return true;
-    case 59:
-      report.setTimeInForce(character(report, ExecutionReport::TIME_IN_FORCE, field));
-      return true;
-    case 528:
-      if (!is44()) return false;
-      report.setOrderCapacity(character(report, ExecutionReport::ORDER_CAPACITY, field));
-      return true;
-    case 32:
-      report.setLastQty(integer(report, ExecutionReport::LAST_QTY, field));
-      return true;
-    case 31:
-      report.setLastPx(number(report, ExecutionReport::LAST_PX, field));
-      return true;
-    case 30:
-      report.setLastMkt(text(report, ExecutionReport::LAST_MKT, field));
-      return true;
-    case 151:
-      report.setLeavesQty(integer(report, ExecutionReport::LEAVES_QTY, field));
-      return true;
-    case 14:
-      report.setCumQty(integer(report, ExecutionReport::CUM_QTY, field));
-      return true;
-    case 6:
-      report.setAvgPx(number(report, ExecutionReport::AVG_PX, field));
-      return true;
-    case 12:
-      report.setCommission(number(report, ExecutionReport::COMMISSION, field));
-      return true;
-    case 75:
-      report.setTradeDate(date(report, ExecutionReport::TRADE_DATE, field));
-      return true;
-    case 60:
-      report.setTransactTime(timestamp(report, ExecutionReport::TRANSACT_TIME, field));
-      return true;
-    case 64:
-      report.setSettlDate(date(report, ExecutionReport::SETTL_DATE, field));
-      return true;
-    case 58:
-      report.setText(text(report, ExecutionReport::TEXT, field));
-      return true;
-    case 95:
-      report.setRawData(data(report, ExecutionReport::RAW_DATA, field, 96, tokenizer));
-      return true;
-    case 382:
-      takePortions(report.getContraBrokers(), field, {375, 437}, tokenizer);
-      return true;
-    case 453:
-      if (!is44()) return false;
-      takeParties(report.getParties(), field, {448, 447, 452}, tokenizer);
-      return true;
-    case 555:
-      if (!is44()) return false;
-      takeLegs(report.getLegs(), field, tokenizer);
-      return true;
-    default:
-      return false;
+  Field field;
+  while (tokenizer.next(field)) {
+    switch (field.getTag()) {
+      case 37:
+        report.setOrderID(text(report, ExecutionReport::ORDER_ID, field));
+        break;
+      case 11:
+        report.setClOrdID(text(report, ExecutionReport::CL_ORD_ID, field));
+        break;
+      case 17:
+        report.setExecID(text(report, ExecutionReport::EXEC_ID, field));
+        break;
+      case 20:
+        if (is44()) return tokenizer.pushBack(field);
+        report.setExecTransType(character(report, ExecutionReport::EXEC_TRANS_TYPE, field));
+        break;
+      case 150:
+        report.setExecType(character(report, ExecutionReport::EXEC_TYPE, field));
+        break;
+      case 39:
+        report.setOrdStatus(character(report, ExecutionReport::ORD_STATUS, field));
+        break;
+      case 1:
+        report.setAccount(text(report, ExecutionReport::ACCOUNT, field));
+        break;
+      case 55:
+        report.setSymbol(text(report, ExecutionReport::SYMBOL, field));
+        break;
+      case 48:
+        report.setSecurityID(text(report, ExecutionReport::SECURITY_ID, field));
+        break;
+      case 22:
+        report.setSecurityIDSource(text(report, ExecutionReport::SECURITY_ID_SOURCE, field));
+        break;
+      case 541:
+        if (!is44()) return tokenizer.pushBack(field);
+        report.setMaturityDate(date(report, ExecutionReport::MATURITY_DATE, field));
+        break;
+      case 207:
+        report.setSecurityExchange(text(report, ExecutionReport::SECURITY_EXCHANGE, field));
+        break;
+      case 54:
+        report.setSide(character(report, ExecutionReport::SIDE, field));
+        break;
+      case 38:
+        report.setOrderQty(integer(report, ExecutionReport::ORDER_QTY, field));
+        break;
+      case 40:
+        report.setOrdType(character(report, ExecutionReport::ORD_TYPE, field));
+        break;
+      case 44:
+        report.setPrice(number(report, ExecutionReport::PRICE, field));
+        break;
+      case 15:
+        report.setCurrency(text(report, ExecutionReport::CURRENCY, field));
+        break;
+      case 59:
+        report.setTimeInForce(character(report, ExecutionReport::TIME_IN_FORCE, field));
+        break;
+      case 528:
+        if (!is44()) return tokenizer.pushBack(field);
+        report.setOrderCapacity(character(report, ExecutionReport::ORDER_CAPACITY, field));
+        break;
+      case 32:
+        report.setLastQty(integer(report, ExecutionReport::LAST_QTY, field));
+        break;
+      case 31:
+        report.setLastPx(number(report, ExecutionReport::LAST_PX, field));
+        break;
+      case 30:
+        report.setLastMkt(text(report, ExecutionReport::LAST_MKT, field));
+        break;
+      case 151:
+        report.setLeavesQty(integer(report, ExecutionReport::LEAVES_QTY, field));
+        break;
+      case 14:
+        report.setCumQty(integer(report, ExecutionReport::CUM_QTY, field));
+        break;
+      case 6:
+        report.setAvgPx(number(report, ExecutionReport::AVG_PX, field));
+        break;
+      case 12:
+        report.setCommission(number(report, ExecutionReport::COMMISSION, field));
+        break;
+      case 75:
+        report.setTradeDate(date(report, ExecutionReport::TRADE_DATE, field));
+        break;
+      case 60:
+        report.setTransactTime(timestamp(report, ExecutionReport::TRANSACT_TIME, field));
+        break;
+      case 64:
+        report.setSettlDate(date(report, ExecutionReport::SETTL_DATE, field));
+        break;
+      case 58:
+        report.setText(text(report, ExecutionReport::TEXT, field));
+        break;
+      case 95:
+        report.setRawData(data(report, ExecutionReport::RAW_DATA, field, 96, tokenizer));
+        break;
+      case 382:
+        takePortions(report.getContraBrokers(), field, {375, 437}, tokenizer);
+        break;
+      case 453:
+        if (!is44()) return tokenizer.pushBack(field);
+        takeParties(report.getParties(), field, {448, 447, 452}, tokenizer);
+        break;
+      case 555:
+        if (!is44()) return tokenizer.pushBack(field);
+        takeLegs(report.getLegs(), field, tokenizer);
+        break;
+      default:
+        if (!isUserDefined(field)) return tokenizer.pushBack(field);
+    }
   }
 }
 

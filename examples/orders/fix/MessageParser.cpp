@@ -14,7 +14,6 @@ namespace {
 
 constexpr char here[] = "examples/orders/fix/MessageParser";
 constexpr char SOH = 1;
-constexpr int firstUserDefinedTag = 5000;  ///< fields from here on are agreed between the parties; we step over them
 }  // namespace
 
 void MessageParser::parse(ExternalObject* message, const Binary& bytes, TransformContext& /*context*/) {
@@ -23,6 +22,7 @@ void MessageParser::parse(ExternalObject* message, const Binary& bytes, Transfor
           [&] {
             parseHeader(static_cast<FIXHeader&>(*message->getHeader()), tokenizer);
             parseBody(*message->getData(), tokenizer);
+            checkBody(*message->getData());
             parseTrailer(static_cast<FIXTrailer&>(*message->getTrailer()), tokenizer);
             tokenizer.assertEmpty();
           });
@@ -81,27 +81,11 @@ void MessageParser::parseHeader(FIXHeader& header, FIXTokenizer& tokenizer) {
   }
 }
 
-void MessageParser::parseBody(DataObject& body, FIXTokenizer& tokenizer) {
-  Field field;
-  while (tokenizer.next(field)) {
-    if (takeField(body, field, tokenizer) || field.getTag() >= firstUserDefinedTag) continue;
-    tokenizer.pushBack(field);
-    break;
-  }
-  checkBody(body);
-}
-
 void MessageParser::parseTrailer(FIXTrailer& trailer, FIXTokenizer& tokenizer) {
   Field field;
   if (!tokenizer.next(field)) missingTag(10);
   if (field.getTag() != 10) return tokenizer.pushBack(field);  // for the tokenizer to refuse
   trailer.setCheckSum(text(trailer, FIXTrailer::CHECK_SUM, field));
-}
-
-const zkstring& MessageParser::text(Record& record, int index, const Field& field) {
-  assertTagNew(&record, index, field.getTag());
-  FIXInputParser::ensureNotNull(field.getValue(), &record, index);
-  return field.getValue();
 }
 
 char MessageParser::character(Record& record, int index, const Field& field) {

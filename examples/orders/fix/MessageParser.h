@@ -32,14 +32,19 @@ class MessageParser : public zarvik::FIXInputParser {
   using Field = zarvik::FIXTokenizer::TagValuePair;
 
   virtual zarvik::DataObject* createBody() const = 0;
-  /// Stores a field of the body, with all that belongs to it; false for one that is no field of this message.
-  virtual bool takeField(zarvik::DataObject& body, Field& field, Tokenizer& tokenizer) = 0;
+  /// Stores the fields of the body; the first that is not of this message is pushed back.
+  virtual void parseBody(zarvik::DataObject& body, Tokenizer& tokenizer) = 0;
   virtual void checkBody(zarvik::DataObject& body) = 0;  ///< throws for what is missing
 
+  static bool isUserDefined(const Field& field) { return field.getTag() >= 5000; }  ///< ours to step over
   bool is44() const { return version == Version::FIX44; }
 
   // The value of `field`, which must not be empty, and the first of its tag in `record`.
-  const zarvik::zkstring& text(Record& record, int index, const Field& field);
+  const zarvik::zkstring& text(Record& record, int index, const Field& field) {
+    assertTagNew(&record, index, field.getTag());
+    FIXInputParser::ensureNotNull(field.getValue(), &record, index);
+    return field.getValue();
+  }
   char character(Record& record, int index, const Field& field);
   int integer(Record& record, int index, const Field& field);
   double number(Record& record, int index, const Field& field);
@@ -78,7 +83,6 @@ class MessageParser : public zarvik::FIXInputParser {
 
  private:
   void parseHeader(zarvik::FIXHeader& header, Tokenizer& tokenizer);
-  void parseBody(zarvik::DataObject& body, Tokenizer& tokenizer);
   void parseTrailer(FIXTrailer& trailer, Tokenizer& tokenizer);
   [[noreturn]] static void throwWrongCount(const Field& count, int found);
 

@@ -13,7 +13,7 @@ class NewOrderSingleParser : public MessageParser {
 
  protected:
   zarvik::DataObject* createBody() const override;
-  bool takeField(zarvik::DataObject& body, Field& field, Tokenizer& tokenizer) override;
+  void parseBody(zarvik::DataObject& body, Tokenizer& tokenizer) override;
   void checkBody(zarvik::DataObject& body) override;
 };
 
