@@ -15,6 +15,7 @@ class IInputFormat : public IService {
  public:
   /// The parsed object, with count 0, which belongs to the caller; the internal message does not see it.
   virtual DataObject* handleInput(InputSource& source, TransformContext& context) = 0;
+  /// Parses `source` and hands the object, which stays the format's own, to the internal message.
   virtual void processInput(InputSource& source, TransformContext& context) = 0;
 };
 

@@ -1,6 +1,7 @@
 #include "TransformContext.h"
 
 #include "Allocations.h"
+#include "Conversion.h"
 #include "Support.h"
 
 namespace zarvik {
@@ -37,6 +38,11 @@ TEST(TransformContext, keepsWhatIsSetLast) {
   context.setProperty("a", "");
   context.putAll({{"a", "5"}});  // the empty text is an entry
   EXPECT_EQ(context.getProperty("a"), "");
+  for (int i = 0; i < 20; ++i) {  // a few are looked through, more are searched for
+    EXPECT_EQ(context.getProperty(intToString(i)), "");
+    context.setProperty(intToString(i), intToString(-i));
+    for (int k = 0; k <= i; ++k) EXPECT_EQ(context.getProperty(intToString(k)), intToString(-k));
+  }
 }
 
 TEST(TransformContext, holdsOneReferenceOnEachObject) {
