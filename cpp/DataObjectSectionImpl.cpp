@@ -63,7 +63,7 @@ void DataObjectSectionImpl::addElement(DataObject* element, bool checkParent) {
   if (checkParent && element->getParentSection() != this) {
     throwFrom(here, IllegalArgumentException("The parent of the element added is not this section"));
   }
-  elements.emplace_back(element);
+  elements.push_back(SmartPtr<DataObject>(element));  // held before the list grows, which may fail
 }
 
 void DataObjectSectionImpl::throwNoElement(int index) const {

@@ -46,7 +46,7 @@ MessageRouter::MessageRouter(MessageIdentificationService* service)
 MessageRouter::~MessageRouter() { clearMessageIdentificationService(); }
 
 void MessageRouter::addMessageConfiguration(MessageConfiguration* configuration) {
-  configurations.emplace_back(configuration);
+  configurations.push_back(std::unique_ptr<MessageConfiguration>(configuration));
 }
 
 void MessageRouter::clear() { configurations.clear(); }

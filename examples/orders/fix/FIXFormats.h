@@ -15,7 +15,7 @@ namespace orders {
 
 template <class Kind>
 zarvik::SmartPtr<zarvik::ExternalObject> createMessage() {
-  return new zarvik::ExternalObject(new zarvik::FIXHeader, new typename Kind::Body, new FIXTrailer);
+  return newMessage(new typename Kind::Body);
 }
 
 /// The message by itself, for flows and tools: parsed, validated, written.

@@ -16,6 +16,13 @@ constexpr char here[] = "examples/orders/fix/MessageParser";
 constexpr char SOH = 1;
 }  // namespace
 
+ExternalObject* newMessage(DataObject* body) {
+  const SmartPtr<DataObject> data(body);
+  const SmartPtr<DataObject> header(new FIXHeader);
+  const SmartPtr<DataObject> trailer(new FIXTrailer);
+  return new ExternalObject(header.get(), data.get(), trailer.get());
+}
+
 void MessageParser::parse(ExternalObject* message, const Binary& bytes, TransformContext& /*context*/) {
   FIXTokenizer tokenizer(bytes.toASCIIString(), SOH);
   stamped([&](TransformException& error) { error.setColumn(tokenizer.getNextTokenIndex()); },
@@ -29,7 +36,7 @@ void MessageParser::parse(ExternalObject* message, const Binary& bytes, Transfor
 }
 
 ExternalObject* MessageParser::parse(const Binary& bytes, TransformContext& context) {
-  auto message = std::make_unique<ExternalObject>(new FIXHeader, createBody(), new FIXTrailer);
+  std::unique_ptr<ExternalObject> message(newMessage(createBody()));
   parse(message.get(), bytes, context);
   return message.release();
 }

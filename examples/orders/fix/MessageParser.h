@@ -13,6 +13,9 @@
 
 namespace orders {
 
+/// A message around `body`, which it takes over, with an empty header and an empty trailer; the caller's, with count 0.
+zarvik::ExternalObject* newMessage(zarvik::DataObject* body);
+
 /// What the parsers of the cartridge's FIX messages share: header, trailer, groups, and fields by their type.
 ///
 /// A parser of one message supplies a switch over the tags of its body, and the check of what must be there. Values are
