@@ -9,10 +9,7 @@ namespace zarvik {
 namespace {
 
 TEST(Binary, encodesTheVectorsOfRfc4648) {
-  struct Row {
-    const char *text, *base64, *hex;
-  };
-  constexpr Row rows[] = {
+  constexpr const char* rows[][3] = {
       {"", "", ""},
       {"f", "Zg==", "66"},
       {"fo", "Zm8=", "666F"},
@@ -21,12 +18,12 @@ TEST(Binary, encodesTheVectorsOfRfc4648) {
       {"fooba", "Zm9vYmE=", "666F6F6261"},
       {"foobar", "Zm9vYmFy", "666F6F626172"},
   };
-  for (const Row& row : rows) {
-    const Binary bytes{zkstring(row.text)};
-    EXPECT_EQ(bytes.toBase64String(), row.base64);
-    EXPECT_EQ(bytes.toHexString(), row.hex);
-    EXPECT_EQ(Binary::fromBase64String(row.base64).toString(), row.text);
-    EXPECT_EQ(Binary::fromHexString(row.hex).toString(), row.text);
+  for (const auto& [text, base64, hex] : rows) {
+    const Binary bytes{zkstring(text)};
+    EXPECT_EQ(bytes.toBase64String(), base64);
+    EXPECT_EQ(bytes.toHexString(), hex);
+    EXPECT_EQ(Binary::fromBase64String(base64).toString(), text);
+    EXPECT_EQ(Binary::fromHexString(hex).toString(), text);
   }
 }
 
@@ -41,10 +38,7 @@ TEST(Binary, readsBackAllBytes) {
 }
 
 TEST(Binary, decodesBase64Laxly) {
-  struct Row {
-    const char *name, *text, *hex;
-  };
-  constexpr Row rows[] = {
+  constexpr const char* rows[][3] = {
       {"line breaks", "Zm9v\r\nYm\nFy", "666F6F626172"},
       {"bytes above 127",
        "\xff\x80Zm\xc3\x84"
@@ -59,14 +53,11 @@ TEST(Binary, decodesBase64Laxly) {
       {"padding second", "Z=m9vZm9v", ""},
       {"padding only", "====", ""},
   };
-  for (const Row& row : rows) EXPECT_EQ(Binary::fromBase64String(row.text).toHexString(), row.hex) << row.name;
+  for (const auto& [name, text, hex] : rows) EXPECT_EQ(Binary::fromBase64String(text).toHexString(), hex) << name;
 }
 
 TEST(Binary, decodesHexWithoutFailure) {
-  struct Row {
-    const char *name, *text, *hex;
-  };
-  constexpr Row rows[] = {
+  constexpr const char* rows[][3] = {
       {"either case", "aBcDeF0f", "ABCDEF0F"},
       {"the whole pairs of an odd length", "ABC", "AB"},
       {"one digit", "A", ""},
@@ -74,7 +65,7 @@ TEST(Binary, decodesHexWithoutFailure) {
       {"a blank counts 32 - 55", " 0", "90"},
       {"0x80 counts 73", "0\x80", "49"},
   };
-  for (const Row& row : rows) EXPECT_EQ(Binary::fromHexString(row.text).toHexString(), row.hex) << row.name;
+  for (const auto& [name, text, hex] : rows) EXPECT_EQ(Binary::fromHexString(text).toHexString(), hex) << name;
 }
 
 TEST(Binary, sharesBlocksWithStrings) {

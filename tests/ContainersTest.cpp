@@ -6,6 +6,7 @@
 #include "BigDecimal.h"
 #include "BigInteger.h"
 #include "Binary.h"
+#include "Living.h"
 #include "ObjectList.h"
 #include "SmallStringMap.h"
 #include "Support.h"
@@ -18,14 +19,7 @@ namespace {
 using IntList = VList<std::vector<int>, int>;
 using BoolList = VList<SimpleDeque<bool>, bool>;
 
-/// A counted object that tells by `alive` whether it still lives.
-class Counted : public ObjectRef {
- public:
-  Counted() { ++alive; }
-  ~Counted() override { --alive; }
-  zkstring toString() const override { return "counted"; }
-  static inline int alive = 0;
-};
+using Counted = Living<ObjectRef>;
 
 template <class List, class... T>
 List listOf(T... values) {

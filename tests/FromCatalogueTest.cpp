@@ -6,12 +6,7 @@ namespace zarvik {
 namespace {
 
 TEST(FromCatalogue, givesTextAndCodeOfTheEntry) {
-  struct Row {
-    TransformException error;
-    const char* code;
-    const char* message;
-  };
-  const Row rows[] = {
+  const std::tuple<TransformException, const char*, const char*> rows[] = {
       {fromCatalogue<FieldNotFoundException>("SRT178", {"Legs"}), "SRT38", "No section with name 'Legs'."},
       {fromCatalogue<SectionConstraintException>("SRT302", {5, zkstring("Legs"), -1}), "SRT65",
        "The number of elements (5) in the section 'Legs' is greater than -1."},
@@ -20,9 +15,9 @@ TEST(FromCatalogue, givesTextAndCodeOfTheEntry) {
       {fromCatalogue<TransformException>("SRT104"), "SRT04", "Error creating  batch context"},
       {fromCatalogue<TransformException>("SRT999", {"x"}), "", ""},
   };
-  for (const Row& row : rows) {
-    EXPECT_EQ(row.error.getMessage(), row.message);
-    EXPECT_EQ(row.error.getErrorCode(), row.code);
+  for (const auto& [error, code, message] : rows) {
+    EXPECT_EQ(error.getMessage(), message);
+    EXPECT_EQ(error.getErrorCode(), code);
   }
 }
 

@@ -7,11 +7,7 @@ namespace zarvik {
 namespace {
 
 TEST(MessageFormatter, replacesPlaceholders) {
-  struct Row {
-    const char* pattern;
-    const char* text;
-  };
-  constexpr Row rows[] = {
+  constexpr const char* rows[][2] = {
       {"", ""},
       {"a{0}b", "axb"},
       {"{2}{1}{0}{0}", "null7xx"},
@@ -35,7 +31,7 @@ TEST(MessageFormatter, replacesPlaceholders) {
   };
   ObjectList arguments("x", 7);
   arguments.add(static_cast<Object*>(nullptr));
-  for (const Row& row : rows) EXPECT_EQ(MessageFormatter::format(row.pattern, arguments), row.text) << row.pattern;
+  for (const auto& [pattern, text] : rows) EXPECT_EQ(MessageFormatter::format(pattern, arguments), text) << pattern;
 }
 
 TEST(MessageFormatter, insertsTextsAsTheyAre) {

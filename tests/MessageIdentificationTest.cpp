@@ -2,6 +2,7 @@
 
 #include "CartridgeMessageIdentifier.h"
 #include "DataObject.h"
+#include "Living.h"
 #include "LookupContextFactory.h"
 #include "MessageHeaderAdapter.h"
 #include "MessageIdentificationService.h"
@@ -29,11 +30,7 @@ struct Deaf : MessageIdentifier {
   inline static std::string log;
 };
 
-struct NoIdentifier : Object {
-  NoIdentifier() { ++alive; }
-  ~NoIdentifier() override { --alive; }
-  inline static int alive = 0;
-};
+struct NoIdentifier : Living<Object> {};
 
 TEST(MessageIdentificationService, asksInOrderAndConfiguresTheLast) {
   Deaf::log.clear();
@@ -87,11 +84,7 @@ std::string headerOf(const std::string& message) {
 }
 
 TEST(MessageIdentificationService, knowsFixAndSiacCanonicalByDefault) {
-  struct Row {
-    const char* message;
-    const char* header;
-  };
-  const Row rows[] = {
+  constexpr const char* rows[][2] = {
       {"", "unknown"},
       {"8=FI", "unknown"},
       {"10001=Canonica", "unknown"},
@@ -107,7 +100,7 @@ TEST(MessageIdentificationService, knowsFixAndSiacCanonicalByDefault) {
        "CFT_BodyLength=120|CFT_SIACMsgType=NB|CFT_MsgSubType=A|CFT_MsgOrigin=O|CFT_MsgDest=D|CFT_MsgSeqNo=9|"},
       {"8=FIX.4.2|x", "FIX: [col 12] 'Name or value' can't be empty. Unable to parse tag=value of form x"},
   };
-  for (const Row& row : rows) EXPECT_EQ(headerOf(row.message), row.header) << row.message;
+  for (const auto& [message, header] : rows) EXPECT_EQ(headerOf(message), header) << message;
   EXPECT_EQ(headerOf("8=FIX.4.2|9=abc|35=D|").substr(0, 14), "FIX: [col 16] ");
   EXPECT_EQ(headerOf("10001=Canonical|10007=abc|").substr(0, 24), "SIAC: [col 26] [col 26] ");
 }

@@ -9,17 +9,15 @@
 namespace zarvik {
 namespace {
 
-struct Counted : ObjectRef {
-  explicit Counted(bool& gone) : gone(gone) {}
-  ~Counted() override { gone = true; }
+/// Tells of its end.
+template <class Base>
+struct Ending : Base {
+  explicit Ending(bool& gone) : gone(gone) {}
+  ~Ending() override { gone = true; }
   bool& gone;
 };
-
-struct Plain : Object {
-  explicit Plain(bool& gone) : gone(gone) {}
-  ~Plain() override { gone = true; }
-  bool& gone;
-};
+using Counted = Ending<ObjectRef>;
+using Plain = Ending<Object>;
 
 TEST(SmartPtr, sharesCountedObjects) {
   bool gone = false;
@@ -32,13 +30,11 @@ TEST(SmartPtr, sharesCountedObjects) {
   EXPECT_TRUE(second->unique());
   second = nullptr;
   EXPECT_TRUE(gone);
-}
 
-TEST(SmartPtr, ownsUncountedObjectsAlone) {
-  bool gone = false;
-  SmartPtr<Object> owner(new Plain(gone));
-  owner->addRef();  // counts nothing
-  owner.reset(nullptr);
+  gone = false;
+  SmartPtr<Object> alone(new Plain(gone));
+  alone->addRef();  // counts nothing
+  alone.reset(nullptr);
   EXPECT_TRUE(gone);
 }
 
@@ -80,24 +76,14 @@ TEST(ObjectRef, copiesTheCount) {
 TEST(Object, refusesEveryKindThatItDoesNotOffer) {
   bool gone = false;
   const SmartPtr<Object> plain(new Plain(gone));
-  struct Row {
-    const char* kind;
-    void (*get)(const Object&);
+  const auto refuses = [&plain](const char* kind, auto getter) {
+    EXPECT_EQ(errorOf<TransformException>([&] { ((*plain).*getter)(); }),
+              std::string("Cannot convert Object to ") + kind);
   };
-  const Row rows[] = {
-      {"Integer", [](const Object& o) { o.getInt(); }},
-      {"Long", [](const Object& o) { o.getLong(); }},
-      {"Double", [](const Object& o) { o.getDouble(); }},
-      {"Float", [](const Object& o) { o.getFloat(); }},
-      {"Character", [](const Object& o) { o.getCharacter(); }},
-      {"Boolean", [](const Object& o) { o.getBoolean(); }},
-      {"String", [](const Object& o) { o.getString(); }},
-      {"RawMessage", [](const Object& o) { o.getRawMessage(); }},
-  };
-  for (const Row& row : rows) {
-    EXPECT_EQ(errorOf<TransformException>([&] { row.get(*plain); }),
-              std::string("Cannot convert Object to ") + row.kind);
-  }
+  refuses("Integer", &Object::getInt), refuses("Long", &Object::getLong), refuses("Double", &Object::getDouble);
+  refuses("Float", &Object::getFloat), refuses("Character", &Object::getCharacter);
+  refuses("Boolean", &Object::getBoolean), refuses("String", &Object::getString);
+  refuses("RawMessage", &Object::getRawMessage);
   EXPECT_EQ(errorOf<TransformException>([&] { plain->setInt(1); }), "Cannot convert Object to Integer");
   EXPECT_EQ(errorOf<TransformException>([&] { plain->setObject(plain.get()); }), "Cannot convert Object to Object");
 }

@@ -176,17 +176,12 @@ TEST(PropertyMap, allocatesNothingWhileItIsEmpty) {
 }
 
 TEST(WildcardFilter, acceptsByItsRule) {
-  struct Row {
-    const char* pattern;
-    const char* name;
-    bool accepted;
-  };
-  constexpr Row rows[] = {{"", "", true},        {"", "a", false},      {"abc", "abc", true}, {"abc", "abcd", false},
-                          {"abc", "ABC", false}, {"a*", "a", true},     {"**", "abc", true},  {"*ab", "abxab", true},
-                          {"?b", "ab", false},   {"a?c", "abc", false}, {"a*c", "abc", true}, {"a??*", "a", true},
-                          {"a?", "ab", true},    {"*b?", "abbc", true}};
-  for (const Row& row : rows) {
-    EXPECT_EQ(WildcardFilter(row.pattern).accept(row.name), row.accepted) << row.pattern << " on " << row.name;
+  constexpr std::tuple<const char*, const char*, bool> rows[] = {
+      {"", "", true},       {"", "a", false},    {"abc", "abc", true},   {"abc", "abcd", false}, {"abc", "ABC", false},
+      {"a*", "a", true},    {"**", "abc", true}, {"*ab", "abxab", true}, {"?b", "ab", false},    {"a?c", "abc", false},
+      {"a*c", "abc", true}, {"a??*", "a", true}, {"a?", "ab", true},     {"*b?", "abbc", true}};
+  for (const auto& [pattern, name, accepted] : rows) {
+    EXPECT_EQ(WildcardFilter(pattern).accept(name), accepted) << pattern << " on " << name;
   }
 }
 

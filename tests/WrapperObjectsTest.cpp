@@ -2,7 +2,9 @@
 
 #include <limits>
 
+#include "RawMessageObject.h"
 #include "SmartPtr.h"
+#include "StringInputSource.h"
 #include "Support.h"
 
 namespace zarvik {
@@ -30,13 +32,8 @@ TEST(NumberObject, convertsByTheLanguagesCasts) {
 }
 
 TEST(NumberObject, givesTheLowestValueOutOfRange) {
-  struct Row {
-    double value;
-    int asInt;
-    __int64 asLong;
-  };
   constexpr double inf = std::numeric_limits<double>::infinity();
-  constexpr Row rows[] = {
+  constexpr std::tuple<double, int, __int64> rows[] = {
       {2147483647.9, 2147483647, 2147483647},
       {2147483648.0, lowestInt, 2147483648},
       {-2147483648.9, lowestInt, -2147483648},
@@ -48,12 +45,12 @@ TEST(NumberObject, givesTheLowestValueOutOfRange) {
       {inf, lowestInt, lowestLong},
       {std::numeric_limits<double>::quiet_NaN(), lowestInt, lowestLong},
   };
-  for (const Row& row : rows) {
-    EXPECT_EQ(DoubleObject(row.value).getInt(), row.asInt) << row.value;
-    EXPECT_EQ(DoubleObject(row.value).getLong(), row.asLong) << row.value;
-    LongObject number;
-    number.setDouble(row.value);
-    EXPECT_EQ(number.getValue(), row.asLong) << row.value;
+  for (const auto& [number, asInt, asLong] : rows) {
+    EXPECT_EQ(DoubleObject(number).getInt(), asInt) << number;
+    EXPECT_EQ(DoubleObject(number).getLong(), asLong) << number;
+    LongObject box;
+    box.setDouble(number);
+    EXPECT_EQ(box.getValue(), asLong) << number;
   }
   EXPECT_EQ(FloatObject(2147483648.0F).getInt(), lowestInt);
   EXPECT_EQ(DoubleObject(1e300).getFloat(), std::numeric_limits<float>::infinity());
@@ -85,6 +82,7 @@ TEST(WrapperObject, travelsAsAnObject) {
       sample<BigDecimalObject>("BigDecimal", "120.0", BigDecimal(120)),
       sample<BinaryObject>("Binary", "bytes", Binary(zkstring("bytes"))),
       sample<DateObject>("DateTime", "2024-12-31T01:02:03.004", date),
+      sample<RawMessageObject>("RawMessage", "body", RawMessage(new StringInputSource("body"))),
       sample<ISODateObject>("ISODateTime", "2024-12-31T01:02:03.004", ISODateTime(date, 60)),
   };
   for (Sample& one : samples) {

