@@ -32,7 +32,7 @@ class FieldMetaInfo : public Object {
   /// The name as an XML tag and an identifier. Computed by the first call, which a DataObjectMetaInfo makes for all
   /// its fields.
   const zkstring& getMangledName() const {
-    if (mangledName.empty()) [[unlikely]]
+    if (mangledName.empty() && !name.empty()) [[unlikely]]
       mangle();
     return mangledName;
   }

@@ -11,7 +11,7 @@ namespace zarvik {
 /// at most `DataObjectXML::deepest`.
 class XMLTag {
  public:
-  XMLTag() = default;
+  XMLTag() : XMLTag(zkstring()) {}
   explicit XMLTag(const zkstring& name);
 
   std::string_view begin(unsigned int depth) const { return of(opening, depth, 1); }
