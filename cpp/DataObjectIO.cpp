@@ -130,7 +130,7 @@ void writeSection(ByteBuffer& buffer, int index, const DataObjectSection* sectio
 void writeValue(ByteBuffer& buffer, const DataObject& object, int index, const zkstring& type) {
   const SmartPtr<Object> value(object.getField(index));
   if (value.isNull()) return;
-  if (const auto* const section = dynamic_cast<const SectionObject*>(value.get())) {
+  if (const SectionObject* const section = SectionObject::of(value.get())) {
     writeSection(buffer, index, section->getSection());
   } else if (const auto* const nested = dynamic_cast<const DataObject*>(value.get())) {
     writeTag(buffer, index);
@@ -157,11 +157,12 @@ void readSection(DataObjectSection& section, ByteBuffer& buffer, int level) {
 /// A nested object is read as it was written: as a record, or as a section of one element where the record gives that.
 void readNested(DataObject& object, int index, ByteBuffer& buffer, int level) {
   const SmartPtr<Object> value(object.getField(index));
-  if (auto* const nested = dynamic_cast<DataObject*>(value.get())) {
+  if (value.isNull()) return;
+  if (const SectionObject* const section = SectionObject::of(value.get())) {
+    readSection(*section->getSection(), buffer, level);
+  } else if (auto* const nested = dynamic_cast<DataObject*>(value.get())) {
     nested->reset();
     readRecord(*nested, buffer, level);
-  } else if (const auto* const section = dynamic_cast<const SectionObject*>(value.get())) {
-    readSection(*section->getSection(), buffer, level);
   }
 }
 
