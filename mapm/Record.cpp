@@ -25,9 +25,8 @@ struct Pool {
   Block* first;
   int room;
 };
-// Plain thread-local data without constructors: usable from any static initialiser and until the very end. It is found
-// without a call in a shared library, too.
-[[gnu::tls_model("initial-exec")]] constinit thread_local Pool pool = {};
+// Plain thread-local data without constructors: usable from any static initialiser and until the very end.
+constinit thread_local Pool pool = {};
 
 Block* nextOf(const Block* block) { return reinterpret_cast<Block*>(block->record.data); }
 

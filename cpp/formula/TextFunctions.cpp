@@ -97,15 +97,26 @@ bool standsAtEnd(const zkstring& text, const zkstring& pattern, Same same) {
 
 bool isTrimmed(char c) { return static_cast<signed char>(c) < 33; }
 
+/// Whether all of the eight bytes are trimmed: a byte is kept that is from 33 to 127.
+bool areTrimmed(const char* bytes) {
+  constexpr std::uint64_t ones = 0x0101010101010101;
+  std::uint64_t word;
+  std::memcpy(&word, bytes, sizeof word);
+  const std::uint64_t from33 = (word & 0x7F * ones) + (128 - 33) * ones;  // the top bit of each byte
+  return (from33 & ~word & 0x80 * ones) == 0;
+}
+
 /// `text` without the trim bytes at the ends that are asked for: itself when there are none.
 zkstring trimmed(const zkstring& text, bool left, bool right) {
   const char* const begin = text.data();
   unsigned int from = 0;
   unsigned int to = text.length();
   if (right) {
+    while (to >= 8 && areTrimmed(begin + to - 8)) to -= 8;
     while (to > 0 && isTrimmed(begin[to - 1])) --to;
   }
   if (left) {
+    while (to - from >= 8 && areTrimmed(begin + from)) from += 8;
     while (from < to && isTrimmed(begin[from])) ++from;
   }
   return text.substr(from, to - from);

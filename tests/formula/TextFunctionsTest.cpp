@@ -76,6 +76,11 @@ TEST(TextFunctions, trimsControlsBlanksAndHighBytes) {
   EXPECT_EQ(T::trimLeft(text), "! b\x7F\x80\n");
   EXPECT_EQ(T::trimRight(text), " \t\xA0 ! b\x7F");
   EXPECT_EQ(T::trim(abcde).data(), abcde.data());
+  for (int i = 0; i < 256; ++i) {  // each byte among eight that go at once
+    const std::string inner = static_cast<char>(i) + std::string("x") + static_cast<char>(i);
+    const std::string padded = std::string(9, ' ') + inner + std::string(9, '\n');
+    EXPECT_EQ(T::trim(mine(padded)), mine(i > 32 && i < 128 ? inner : "x")) << i;
+  }
 }
 
 TEST(TextFunctions, padsRepeatsAndReverses) {
