@@ -1,5 +1,7 @@
 #include "AbstractExternalMessage.h"
 
+#include <cassert>
+
 #include "ByteArrayInputSource.h"
 #include "Class.h"
 #include "Collecting.h"
@@ -38,6 +40,7 @@ SmartPtr<DataObject> AbstractExternalMessage::parse(const Binary& bytes, Transfo
 }
 
 SmartPtr<DataObject> AbstractExternalMessage::parse(const RawMessage& message, TransformContext& context) {
+  assert(!message.isNull());
   return parseOwnForm(static_cast<InputSource&>(*message), ExceptionHandler::DRACONIAN_EXCEPTION_HANDLER, context);
 }
 

@@ -94,6 +94,7 @@ void AbstractInternalMessage::validate(const zkstring& validatorName, const Smar
 }
 
 Binary AbstractInternalMessage::serialize(const SmartPtr<DataObject>& object, TransformContext& context) {
+  assert(!object.isNull());
   if (isZarvikFormat(context.getProperty(MESSAGE_FORMAT))) return DataObjectIO::serialize(object.get());
   return object->toXMLString();
 }
@@ -127,6 +128,7 @@ void AbstractInternalMessage::handleNormalizedObject(DataObject* object, Transfo
 }
 
 void AbstractInternalMessage::processAll(DataObject* object, TransformContext& context) {
+  assert(object != nullptr);
   const Alive alive(*object);
   const SmartPtr<DataObject> held(object);
   if (processingRuleExists(PREPROCESSING_NODE_NAME)) preprocess(held, context);

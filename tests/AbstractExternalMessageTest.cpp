@@ -13,7 +13,7 @@ namespace zarvik {
 namespace {
 
 SmartPtr<DataObject> with(const char* name) {
-  return new ExternalObject(recordOf("H").get(), recordOf(name).get(), recordOf("T").get());
+  return new ExternalObject(TestRecord::named("H"), TestRecord::named(name), TestRecord::named("T"));
 }
 
 /// The bytes are the name in the data.
@@ -25,7 +25,7 @@ struct Parser : InputParser {
     report(told(bytes), exceptionHandler);
   }
   ExternalObject* parse(const Binary& bytes, TransformContext& /*context*/) override {
-    return new ExternalObject(nullptr, recordOf(told(bytes).c_str()).get(), nullptr);
+    return new ExternalObject(nullptr, TestRecord::named(told(bytes).c_str()), nullptr);
   }
 };
 

@@ -51,7 +51,7 @@ struct Transaction : AbstractInternalMessage {
     addProcessing(POSTPROCESSING_NODE_NAME, &behind);
     addProcessing(POSTPROCESSING_NODE_NAME, &extra);  // too late
   }
-  DataObject* createNormalizedObject() override { return guardedCast<DataObject>(recordOf("new")->clone()); }
+  DataObject* createNormalizedObject() override { return TestRecord::named("new"); }
   Triggers* getTriggers() override { return &triggers; }
 
   // That these are what `handleNormalizedObject` calls shows in brackets.
@@ -93,8 +93,7 @@ TEST(InternalMessage, leadsAnObjectThroughItsRulesToTheTriggersAndLeavesItsCount
   for (const Row& row : rows) {
     const SmartPtr<Transaction> transaction(new Transaction(row.processed));
     TransformContext context;
-    DataObject* const object = new TestRecord;
-    object->setField(TestRecord::NAME, StringObject(row.object));
+    DataObject* const object = TestRecord::named(row.object);
     EXPECT_EQ(outcome([&] { transaction->handleNormalizedObject(object, context); }), row.outcome);
     EXPECT_EQ(object->getRefCount(), 0);
     const SmartPtr<DataObject> owner(object);
@@ -114,7 +113,7 @@ TEST(InternalMessage, plainOperationsThrowTheFirstErrorAndTheOthersCollectAsDoTh
     const auto test = [](const std::string& step, const std::string& reporting, const std::string& throwing,
                          auto operation) {
       const auto on = [&](const char* errors) {
-        const SmartPtr<DataObject> object(recordOf((step + errors).c_str()).get());
+        const SmartPtr<DataObject> object(TestRecord::named((step + errors).c_str()));
         return outcome([&] { return operation(object); });
       };
       EXPECT_EQ(on("!!"), reporting) << step;
@@ -157,7 +156,7 @@ TEST(InternalMessage, plainOperationsThrowTheFirstErrorAndTheOthersCollectAsDoTh
 TEST(InternalMessage, isWrittenInTwoFormsAndProcessesNothingWithoutRules) {
   const SmartPtr<Transaction> transaction(new Transaction(false));
   const SmartPtr<IInternalMessage> wrapper(new BusinessTransactionWrapper(transaction.get()));
-  const SmartPtr<DataObject> object(recordOf("a").get());
+  const SmartPtr<DataObject> object(TestRecord::named("a"));
   TransformContext context;
   EXPECT_EQ(wrapper->preprocess(object, context).get(), object.get());
   EXPECT_EQ(wrapper->postprocess2(object, context).value.get(), object.get());

@@ -22,11 +22,6 @@ inline void report(const std::string& text, ExceptionHandler* handler) {
   }
 }
 
-inline SmartPtr<TestRecord> recordOf(const char* name) {
-  const SmartPtr<TestRecord> record(new TestRecord);
-  record->setField(TestRecord::NAME, zkstring(name));
-  return record;
-}
 inline std::string told(const zkstring& text) { return {text.data(), text.length()}; }
 inline std::string told(const Binary& bytes) { return told(bytes.toString()); }
 inline std::string told(const RawMessage& message) { return told(message->getAsString()); }

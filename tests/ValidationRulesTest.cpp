@@ -106,7 +106,7 @@ TEST(ValidationRules, makeEachUserClassOnce) {
   UserClassManager::registerClass("Seven", new GenericObjectFactory<Seven>);
   UserClassManager::registerClass("Joined", new GenericObjectFactory<Joined>);
   UserClassManager::registerClass("Shout", new GenericObjectFactory<Shout>);
-  const SmartPtr<TestRecord> record = recordOf("name");
+  const SmartPtr<TestRecord> record(TestRecord::named("name"));
   TransformContext context;
   {
     Open rules;
