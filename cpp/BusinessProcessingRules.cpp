@@ -1,7 +1,5 @@
 #include "BusinessProcessingRules.h"
 
-#include "CustomInstances.h"
-#include "IFieldProcessing.h"
 #include "Stamped.h"
 
 namespace zarvik {
@@ -12,10 +10,5 @@ void BusinessProcessingRules::process(DataObject* object, TransformContext& cont
 }
 
 void BusinessProcessingRules::process0(DataObject* object, TransformContext& /*context*/) { process(object); }
-
-Object* BusinessProcessingRules::customFieldProcessing(const zkstring& className, const zkstring& argument,
-                                                       DataObject* object) {
-  return customInstance<IFieldProcessing>(fieldProcessings, className).process(argument, object);
-}
 
 }  // namespace zarvik

@@ -1,7 +1,5 @@
 #include "ProcessingRules.h"
 
-#include "CustomInstances.h"
-#include "IFieldProcessing.h"
 #include "Stamped.h"
 
 namespace zarvik {
@@ -31,11 +29,6 @@ void ProcessingRules::process0(DataObject* object, TransformContext& context) {
   validate(object, context);
   postprocess(object, context);
   checkNotNull(object, context);
-}
-
-Object* ProcessingRules::customFieldProcessing(const zkstring& className, const zkstring& argument,
-                                               DataObject* object) {
-  return customInstance<IFieldProcessing>(fieldProcessings, className).process(argument, object);
 }
 
 }  // namespace zarvik

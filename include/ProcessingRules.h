@@ -1,13 +1,13 @@
 #pragma once
 
-#include "AbstractValidationRules.h"
+#include "AbstractProcessingRules.h"
 
 namespace zarvik {
 
 /// The base of generated processings of an object in four steps. See AbstractValidationRules.
 ///
 /// Errors leave `process` with the error type "Processing" unless they have one.
-class ProcessingRules : public AbstractValidationRules {
+class ProcessingRules : public AbstractProcessingRules {
  public:
   virtual ~ProcessingRules() = default;
 
@@ -17,8 +17,6 @@ class ProcessingRules : public AbstractValidationRules {
   void validate(DataObject* object, TransformContext& context);
   void postprocess(DataObject* object, TransformContext& context);
   void checkNotNull(DataObject* object, TransformContext& context);
-  /// The handler stays the caller's and is used until the next one is set.
-  void setExceptionHandler(ExceptionHandler* handler) { exceptionHandler = handler; }
 
  protected:
   /// By default the steps preprocess, validate, postprocess, checkNotNull, in this order, each as a run of its own.
@@ -28,15 +26,6 @@ class ProcessingRules : public AbstractValidationRules {
   virtual void postprocess(DataObject* /*object*/) {}
   virtual void validate(DataObject* /*object*/) {}
   virtual void checkNotNull(DataObject* /*object*/) {}
-
-  /// The value that the user's processing `className` gives for a field of `object`, which is the caller's.
-  Object* customFieldProcessing(const zkstring& className, const zkstring& argument, DataObject* object);
-
- private:
-  SmallStringMap fieldProcessings;  ///< of IFieldProcessing, by class name
-
- protected:
-  ExceptionHandler* exceptionHandler = ExceptionHandler::DRACONIAN_EXCEPTION_HANDLER;
 };
 
 }  // namespace zarvik

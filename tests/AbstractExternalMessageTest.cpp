@@ -139,8 +139,8 @@ TEST(ExternalMessage, validatesAndWritesExternalObjects) {
 
   message->validate(with("a"), context);
   message->validate("Other", with("b"), context);
-  EXPECT_EQ(message->rules.steps + message->otherRules.steps,
-            "header H data H,a trailer T header H data H,b trailer T ");
+  EXPECT_EQ(message->rules.steps + "| " + message->otherRules.steps,
+            "header H data H,a trailer T | header H data H,b trailer T ");
 }
 
 TEST(InputParser, takesSourcesAsBytesAndWantsValues) {
