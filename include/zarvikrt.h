@@ -7,6 +7,7 @@
 #include "AbstractInputFormat.h"
 #include "AbstractInternalMessage.h"
 #include "AbstractOutputFormat.h"
+#include "AbstractProcessingRules.h"
 #include "AbstractRawMessage.h"
 #include "AbstractSimpleOutputWriter.h"
 #include "AbstractTrigger.h"
