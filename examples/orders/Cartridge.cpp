@@ -46,8 +46,6 @@ MessageConfiguration* configurationOf(const Row& row) {
   configuration->setContextProperty(TransformContext::INPUT_FORMAT_PROPERTY, row.inputFormat);
   configuration->setContextProperty(TransformContext::OUTPUT_FORMAT_PROPERTY, row.outputFormat);
   configuration->setContextProperty(TransformContext::OUTPUT_DEVICE_PROPERTY, MEMORY);
-  configuration->setContextProperty(SENDER_PROPERTY, "HOUSE");
-  configuration->setContextProperty(TARGET_PROPERTY, "STREET");
   return configuration;
 }
 }  // namespace

@@ -12,7 +12,7 @@ inline constinit const zarvik::zkstringliteral BYTES_OUT = "OrderBytesOut";
 inline constinit const zarvik::zkstringliteral FILES = "OrderFiles";    ///< the protocol that writes files
 inline constinit const zarvik::zkstringliteral MEMORY = "OrderMemory";  ///< the protocol that collects in memory
 
-// Properties of the context that the cartridge reads.
+// Properties that the FIX output reads; the trigger of deliveries has them.
 inline constinit const zarvik::zkstringliteral SENDER_PROPERTY = "fix.sender";  ///< our SenderCompID
 inline constinit const zarvik::zkstringliteral TARGET_PROPERTY = "fix.target";  ///< whom we write to
 

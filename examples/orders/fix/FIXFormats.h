@@ -53,22 +53,25 @@ class FIXInput : public zarvik::AbstractInputFormat {
   zarvik::SmartPtr<zarvik::ExternalObject> message;
 };
 
-/// The message on its way out: mapped from the normalised order, and written.
+/// The message on its way out: mapped from the normalised order, and written. Header and body are kept for the next.
 template <class Kind, Version version>
 class FIXOutput : public zarvik::AbstractOutputFormat {
  public:
-  zarvik::DataObject* createHeader() override { return new zarvik::FIXHeader; }
-  zarvik::DataObject* createRecordData() override { return new typename Kind::Body; }
-  void mapHeader(zarvik::DataObject* input, zarvik::DataObject* header, zarvik::TransformContext& context) override {
-    fromOrder(*zarvik::guardedCast<Order>(input), version, Kind::TYPE, context,
-              static_cast<zarvik::FIXHeader&>(*header));
+  zarvik::DataObject* createHeader() override { return header->reset(), header.get(); }
+  zarvik::DataObject* createRecordData() override { return body->reset(), body.get(); }
+  void mapHeader(zarvik::DataObject* input, zarvik::DataObject* /*header*/,
+                 zarvik::TransformContext& context) override {
+    fromOrder(*zarvik::guardedCast<Order>(input), version, Kind::TYPE, context, *header);
   }
-  void mapData(zarvik::DataObject* input, zarvik::DataObject* data, zarvik::TransformContext& /*context*/) override {
-    fromOrder(*zarvik::guardedCast<Order>(input), version, static_cast<typename Kind::Body&>(*data));
+  void mapData(zarvik::DataObject* input, zarvik::DataObject* /*data*/,
+               zarvik::TransformContext& /*context*/) override {
+    fromOrder(*zarvik::guardedCast<Order>(input), version, *body);
   }
   zarvik::OutputWriter* getOutputWriter() override { return &writer; }
 
  private:
+  zarvik::SmartPtr<zarvik::FIXHeader> header{new zarvik::FIXHeader};
+  zarvik::SmartPtr<typename Kind::Body> body{new typename Kind::Body};
   typename Kind::Writer writer{version};
 };
 

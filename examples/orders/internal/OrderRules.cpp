@@ -1,6 +1,7 @@
 #include "orders/internal/OrderRules.h"
 
 #include "GuardedCast.h"
+#include "Parsing.h"
 #include "orders/Instrument.h"
 #include "orders/Names.h"
 #include "orders/Order.h"
@@ -31,7 +32,8 @@ void OrderValidation::validate(DataObject* object) {
 void OrderPostprocessing::process(DataObject* object) {
   Order& order = *guardedCast<Order>(object);
   if (order.isNull(Order::PRICE)) return;
-  order.setNotional(BigDecimal(order.getQuantity()) * BigDecimal(order.getPrice()));
+  const BigDecimal price(Parsing::doubleToString(order.getPrice()));  // as it was written, and so exact
+  order.setNotional(BigDecimal(order.getQuantity()) * price);
 }
 
 }  // namespace orders

@@ -24,6 +24,8 @@ OrderTriggers::OrderTriggers()
       delivery(nullptr, "RouterTrigger", "delivery"),
       archive(nullptr, "RouterTrigger", "archive"),
       journal(nullptr, "RouterTrigger", "journal") {
+  delivery.addProperty(SENDER_PROPERTY, "HOUSE");
+  delivery.addProperty(TARGET_PROPERTY, "STREET");
   archive.addProperty(TransformContext::OUTPUT_FORMAT_PROPERTY, XML_OUT);
   archive.addProperty(TransformContext::OUTPUT_DEVICE_PROPERTY, FILES);
   journal.addProperty(TransformContext::OUTPUT_FORMAT_PROPERTY, BYTES_OUT);
