@@ -17,7 +17,7 @@
 #include "orders/fix/FIXFormats.h"
 #include "support/Subject.h"
 #ifdef ZARVIKRT_QUICKFIX
-#include "peers/QuickFixOrders.h"
+#include "support/QuickFixOrders.h"
 #endif
 
 using namespace zarvik;
