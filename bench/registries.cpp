@@ -112,11 +112,13 @@ void messagesWithoutProperties() {
   measure(subject, ours, [] {
     const RawMessage message(new StringInputSource(text));
     TransformContext context;
+    benchmark::DoNotOptimize(message.get());
     return message->hasProperty(name) || !context.getProperty(name).empty();
   });
   measure(subject, byHand, [] {
     const auto message = std::make_unique<PlainMessage>(text.data());
     const PlainContext context;
+    benchmark::DoNotOptimize(message.get());
     return message->hasProperty(standardName) || !context.getProperty(standardName).empty();
   });
 }

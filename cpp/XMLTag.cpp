@@ -5,7 +5,7 @@ namespace {
 
 std::string line(const char* begin, const zkstring& name) {
   std::string text(DataObjectXML::deepest, '\t');
-  return text.append(begin).append(name.data(), name.length()).append(">\n");
+  return text.append(begin).append(name.data(), name.length()).append(">\n").append(XMLTag::step, '\0');
 }
 }  // namespace
 
