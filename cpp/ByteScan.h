@@ -40,18 +40,10 @@ inline unsigned int places(const char* window, const char* wanted) {
   return zeroBytes(wordAt(window) ^ wordAt(wanted)) | zeroBytes(wordAt(window + 8) ^ wordAt(wanted + 8)) << 8;
 }
 
-/// The sum of the bytes modulo 256: eight sums at once, each in a byte of its own, without a carry between them.
+/// The sum of the bytes modulo 256: a loop that compilers know how to turn into vectors, where there are any.
 inline unsigned char sum(const char* bytes, std::size_t length) {
-  constexpr std::uint64_t low = inEveryByte(0x7f);
-  std::uint64_t sums = 0;
-  std::size_t i = 0;
-  for (; i + 8 <= length; i += 8) {
-    const std::uint64_t word = wordAt(bytes + i);
-    sums = ((sums & low) + (word & low)) ^ ((sums ^ word) & ~low);
-  }
-  constexpr std::uint64_t even = 0x00ff00ff00ff00ff;
-  std::uint64_t total = ((sums & even) + (sums >> 8 & even)) * 0x0001000100010001 >> 48;
-  for (; i < length; ++i) total += static_cast<unsigned char>(bytes[i]);
+  unsigned int total = 0;
+  for (std::size_t i = 0; i < length; ++i) total += static_cast<unsigned char>(bytes[i]);
   return static_cast<unsigned char>(total);
 }
 }  // namespace words
@@ -67,17 +59,23 @@ inline unsigned int places(const char* window, const char* wanted) {
 
 /// Sums of eight bytes each, of which the low byte counts: psadbw, with the bytes' distance to 0.
 inline unsigned char sum(const char* bytes, std::size_t length) {
+  if (length < windowSize) return words::sum(bytes, length);
   const __m128i zero = _mm_setzero_si128();
-  __m128i even = zero;
-  __m128i odd = zero;
+  const auto sumOf = [zero](const char* window) { return _mm_sad_epu8(vectorAt(window), zero); };
+  __m128i sums = zero;
   std::size_t i = 0;
-  for (; i + 32 <= length; i += 32) {
-    even = _mm_add_epi64(even, _mm_sad_epu8(vectorAt(bytes + i), zero));
-    odd = _mm_add_epi64(odd, _mm_sad_epu8(vectorAt(bytes + i + 16), zero));
+  for (; i + 4 * windowSize <= length; i += 4 * windowSize) {
+    const __m128i front = _mm_add_epi64(sumOf(bytes + i), sumOf(bytes + i + windowSize));
+    const __m128i back = _mm_add_epi64(sumOf(bytes + i + 2 * windowSize), sumOf(bytes + i + 3 * windowSize));
+    sums = _mm_add_epi64(sums, _mm_add_epi64(front, back));
   }
-  const __m128i both = _mm_add_epi64(even, odd);
-  const int total = _mm_cvtsi128_si32(_mm_add_epi64(both, _mm_unpackhi_epi64(both, both)));
-  return static_cast<unsigned char>(static_cast<unsigned char>(total) + words::sum(bytes + i, length - i));
+  for (; i + windowSize <= length; i += windowSize) sums = _mm_add_epi64(sums, sumOf(bytes + i));
+  // The bytes that are left, at the end of a last window; those before them are taken for 0.
+  const __m128i place = _mm_set_epi8(15, 14, 13, 12, 11, 10, 9, 8, 7, 6, 5, 4, 3, 2, 1, 0);
+  const __m128i isBefore = _mm_cmpgt_epi8(_mm_set1_epi8(static_cast<char>(windowSize - (length - i))), place);
+  const __m128i last = _mm_andnot_si128(isBefore, vectorAt(bytes + length - windowSize));
+  sums = _mm_add_epi64(sums, _mm_sad_epu8(last, zero));
+  return static_cast<unsigned char>(_mm_cvtsi128_si32(_mm_add_epi64(sums, _mm_unpackhi_epi64(sums, sums))));
 }
 }  // namespace vectors
 namespace scan = vectors;

@@ -125,7 +125,10 @@ char* putFraction(char* out, std::uint32_t hundredMillionths) {
     *out = '0';
     return out + 1;
   }
-  char* end = putEight(out, hundredMillionths);
+  const std::uint32_t tenThousandths = hundredMillionths / 10'000;  // prices seldom have more digits
+  const bool isShort = tenThousandths * 10'000 == hundredMillionths;
+  char* end =
+      isShort ? putPair(putPair(out, tenThousandths / 100), tenThousandths % 100) : putEight(out, hundredMillionths);
   while (end[-1] == '0') --end;
   return end;
 }

@@ -1,9 +1,7 @@
 #include "TagValueOutputWriter.h"
 
-#include <algorithm>
-#include <cstring>
-#include <limits>
-#include <new>
+#include <bit>
+#include <charconv>
 
 #include "AbstractDataObject.h"
 #include "ByteScan.h"
@@ -13,81 +11,112 @@
 namespace zarvik {
 namespace {
 
+constexpr std::size_t tagRoom = 8;  ///< what a tag writes, whatever its size
 constexpr std::size_t checkSumSize = sizeof "10=000|" - 1;
-constexpr std::size_t largestMessage = std::numeric_limits<int>::max() / 2;
 
-/// Copies `n` bytes, of which there are at least as many as Block has, in blocks of which the last may overlap.
-template <std::size_t Block>
-void copyBlocks(char* out, const char* from, std::size_t n) {
-  for (std::size_t i = 0; i + Block < n; i += Block) std::memcpy(out + i, from + i, Block);
-  std::memcpy(out + n - Block, from + n - Block, Block);
+/// Copies n bytes, at least Half and at most twice as many, in two halves, which may overlap.
+template <std::size_t Half>
+void copyHalves(char* out, const char* from, std::size_t n) {
+  char first[Half];
+  char last[Half];
+  std::memcpy(first, from, Half);
+  std::memcpy(last, from + n - Half, Half);
+  std::memcpy(out, first, Half);
+  std::memcpy(out + n - Half, last, Half);
 }
 
-/// Copies the bytes and gives the end. Tags and most values are short: a call of memcpy would cost more than it saves.
-char* put(char* out, std::string_view text) {
+constexpr std::size_t longestPut = 32;
+constexpr char delimiters[windowSize + 1] = "\1\1\1\1\1\1\1\1\1\1\1\1\1\1\1\1";
+
+/// Copies a text of 1 to 32 bytes and gives the end. A call of memcpy would cost more than it saves.
+inline char* put(char* out, std::string_view text) {
+  const char* const from = text.data();
   const std::size_t n = text.size();
-  if (n > 64) {
-    std::memcpy(out, text.data(), n);
-  } else if (n >= 16) {
-    copyBlocks<16>(out, text.data(), n);
-  } else if (n >= 8) {
-    copyBlocks<8>(out, text.data(), n);
-  } else if (n >= 4) {
-    copyBlocks<4>(out, text.data(), n);
-  } else if (n >= 2) {
-    copyBlocks<2>(out, text.data(), n);
-  } else if (n == 1) {
-    *out = text[0];
+  if (n < 4) {
+    out[0] = from[0];
+    out[n / 2] = from[n / 2];
+    out[n - 1] = from[n - 1];
+  } else if (n <= 8) {
+    copyHalves<4>(out, from, n);
+  } else if (n <= 16) {
+    copyHalves<8>(out, from, n);
+  } else {
+    copyHalves<16>(out, from, n);
   }
   return out + n;
 }
+
+char* copy(char* out, std::string_view text) {
+  if (text.size() - 1 < longestPut) return put(out, text);
+  if (text.empty()) return out;
+  std::memcpy(out, text.data(), text.size());
+  return out + text.size();
+}
 }  // namespace
 
-void TagValueOutputWriter::appendField(const char* tag, const char* value) {
-  if (value != nullptr && *value != '\0') appendBytes(tag, value);
+// Of all but the long texts each fits into the spare room of the buffer.
+static_assert(FieldBuffer::spare > tagRoom + doubleTextSize && FieldBuffer::spare > tagRoom + longestPut);
+
+void TagValueOutputWriter::appendField0(FieldTag tag, std::string_view value) {
+  if (value.size() > longestPut) [[unlikely]]
+    return appendLong(tag, value);
+  endField(put(tag.put(messageBuffer.next()), value));
 }
 
-void TagValueOutputWriter::appendField(const char* tag, bool value) { appendField0(tag, boolToString(value)); }
-
-void TagValueOutputWriter::appendBytes(std::string_view tag, std::string_view value) {
-  char* out = room(tag.size() + value.size() + 2);
-  char* const start = out;
-  out = put(out, tag);
-  *out++ = '=';
-  out = put(out, value);
-  *out++ = delimiter;
-  used += static_cast<std::size_t>(out - start);
+// Not inline, so that the usual field need save no register.
+[[gnu::noinline]] void TagValueOutputWriter::appendLong(FieldTag tag, std::string_view value) {
+  messageBuffer.setNext(tag.put(messageBuffer.next()));
+  messageBuffer.append(value);
+  endField(messageBuffer.next());
 }
 
-char* TagValueOutputWriter::room(std::size_t size) {
-  if (messageBuffer.size() - used < size) [[unlikely]] {
-    if (size > largestMessage - used) throw std::bad_array_new_length();
-    messageBuffer.resize(std::max(used + size, 2 * messageBuffer.size()));
-  }
-  return messageBuffer.data() + used;
+void TagValueOutputWriter::appendChar(FieldTag tag, char value) {
+  char* const out = tag.put(messageBuffer.next());
+  *out = value;
+  endField(value != '\0' ? out + 1 : out);  // the text form of a NUL is empty
+}
+
+void TagValueOutputWriter::appendWhole(FieldTag tag, int value) {
+  char* const text = tag.put(messageBuffer.next());
+  endField(std::to_chars(text, text + intTextSize, value).ptr);
+}
+
+void TagValueOutputWriter::appendWhole(FieldTag tag, __int64 value) {
+  char* const text = tag.put(messageBuffer.next());
+  endField(std::to_chars(text, text + longTextSize, value).ptr);
+}
+
+void TagValueOutputWriter::appendDouble(FieldTag tag, double value) {
+  char* const text = tag.put(messageBuffer.next());
+  doubleToString(value, text);
+  char* end = text + 3;  // no text is shorter
+  while (*end != '\0') ++end;
+  endField(end);
 }
 
 std::size_t TagValueOutputWriter::firstFieldSize() const {
-  if (used == 0) return 0;
-  const char* const start = messageBuffer.data();
-  const void* const end = std::memchr(start, delimiter, used);
-  return end == nullptr ? 0 : static_cast<std::size_t>(static_cast<const char*>(end) - start) + 1;
+  const std::string_view written = messageBuffer.view();
+  if (written.size() >= windowSize) {  // one look finds the end of a short field
+    const unsigned int places = scan::places(written.data(), delimiters);
+    if (places != 0) return static_cast<unsigned int>(std::countr_zero(places)) + 1;
+  }
+  return written.find(delimiter) + 1;
 }
 
 zkstring TagValueOutputWriter::finish(std::size_t head, std::string_view inserted) const {
-  const std::size_t size = used + inserted.size() + (checksumEnabled ? checkSumSize : 0);
-  zkstring message;
-  char* const begin = message.getBuffer(static_cast<int>(size));
-  char* out = begin;
-  const std::string_view written(messageBuffer.data(), used);
-  for (const std::string_view part : {written.substr(0, head), inserted, written.substr(head)}) out = put(out, part);
-  if (checksumEnabled) writeCheckSum(out, begin);
-  message.setBufferLength(static_cast<int>(size));
-  return message;
+  const std::string_view written = messageBuffer.view();
+  const std::size_t size = written.size() + inserted.size() + (checksumEnabled ? checkSumSize : 0);
+  zkstring text;
+  char* const out = text.getBuffer(static_cast<int>(size));
+  char* const inner = copy(copy(out, {written.data(), head}), inserted);
+  char* const end = copy(inner, {written.data() + head, written.size() - head});
+  if (checksumEnabled) writeCheckSum(end, out);
+  text.setBufferLength(static_cast<int>(size));
+  return text;
 }
 
-void TagValueOutputWriter::writeCheckSum(char* end, const char* message) const {
-  const unsigned int sum = generateCheckSum(message, static_cast<unsigned int>(end - message));
+void TagValueOutputWriter::writeCheckSum(char* end, const char* begin) const {
+  const unsigned int sum = generateCheckSum(begin, static_cast<unsigned int>(end - begin));
   const char field[] = {'1',
                         '0',
                         '=',

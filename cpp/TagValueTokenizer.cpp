@@ -13,12 +13,18 @@ namespace {
 
 constexpr unsigned int longestQuickTag = 9;  ///< digits: any number of as many fits
 
+/// Above 9 for what is no digit.
+constexpr unsigned int digitOf(char c) { return static_cast<unsigned int>(static_cast<unsigned char>(c)) - '0'; }
+
 /// The tag that stands at `p` as plain digits with a '=' behind, and their number; 0 for anything else. Looks no
 /// further than the first byte that is no digit.
 inline unsigned int readTag(const char* p, unsigned int& tag) {
-  for (unsigned int digits = 0; digits <= longestQuickTag; ++digits) {
-    const unsigned int digit = static_cast<unsigned int>(static_cast<unsigned char>(p[digits])) - '0';
-    if (digit > 9) return digit == '=' - '0' ? digits : 0;
+  tag = digitOf(*p);
+  if (tag > 9) return 0;
+  for (unsigned int digits = 1; digits <= longestQuickTag; ++digits) {
+    if (p[digits] == '=') return digits;
+    const unsigned int digit = digitOf(p[digits]);
+    if (digit > 9) return 0;
     tag = tag * 10 + digit;
   }
   return 0;
@@ -43,7 +49,8 @@ unsigned int quickPart(unsigned int length, char delimiter) {
 
 TagValueTokenizer::TagValueTokenizer(const zkstring& text, char delimiter)
     : quickEnd(quickPart(text.length(), delimiter)), text(text) {
-  std::fill(std::begin(delimiters), std::end(delimiters), delimiter);
+  const std::uint64_t word = words::inEveryByte(static_cast<unsigned char>(delimiter));
+  for (unsigned int i = 0; i < sizeof delimiters; i += sizeof word) std::memcpy(delimiters + i, &word, sizeof word);
 }
 
 bool TagValueTokenizer::next(TagValuePair& pair) {
@@ -57,10 +64,11 @@ bool TagValueTokenizer::next(TagValuePair& pair) {
     return nextByTheBook(pair);
 
   unsigned int end = currentIndex;
-  unsigned int places = 0;
-  while ((places = scan::places(text.data() + end, delimiters)) == 0) {
+  unsigned int places = scan::places(begin, delimiters);
+  while (places == 0) {
     end += windowSize;
     if (end >= quickEnd) return nextByTheBook(pair);
+    places = scan::places(text.data() + end, delimiters);
   }
   end += static_cast<unsigned int>(std::countr_zero(places));
   const unsigned int start = currentIndex + digits + 1;
@@ -114,7 +122,8 @@ unsigned int TagValueTokenizer::nextToken(int dataLength) {
 
 void TagValueTokenizer::split(unsigned int start, unsigned int size, TagValuePair& pair) const {
   const char* const token = text.data() + start;
-  const char* const equal = find(token, token + size, '=');
+  const char* equal = token;
+  while (equal != token + size && *equal != '=') ++equal;
   if (equal == token + size) {
     fail("'Name or value' can't be empty. Unable to parse tag=value of form " + text.substr(start, size));
   }

@@ -1,5 +1,8 @@
 #include "TagValueType.h"
 
+#include <array>
+#include <cstring>
+
 namespace zarvik {
 namespace {
 
@@ -14,8 +17,49 @@ struct PatternPair {
 
 constinit const PatternPair timestamp{"yyyyMMdd-HH:mm:ss.SSS", "yyyyMMdd-HH:mm:ss"};
 constinit const PatternPair timeOnly{"HH:mm:ss.SSS", "HH:mm:ss"};
+constexpr int widestTime = sizeof "yyyyMMdd-HH:mm:ss.SSS" - 1;
 constinit const zkstringliteral date("yyyyMMdd");
 constinit const zkstringliteral monthYear("yyyyMM");
+
+/// The texts "00" to "99", one behind the other.
+constexpr auto pairs = [] {
+  std::array<char, 200> texts{};
+  for (unsigned int i = 0; i < 200; ++i) texts[i] = static_cast<char>('0' + (i % 2 == 0 ? i / 20 : i / 2 % 10));
+  return texts;
+}();
+
+char* putPair(char* out, std::size_t n) {
+  std::memcpy(out, &pairs[2 * n], 2);
+  return out + 2;
+}
+
+/// A field's value; a negative one, which only an unchecked date has, becomes larger than any other.
+std::size_t field(int value) { return static_cast<unsigned int>(value); }
+
+/// Whether the fields have the widths of the patterns, as those of every valid time of the years 0 to 9999 have.
+bool isOrdinary(const DateTime& value) {
+  const int others = value.getMonth() | value.getDate() | value.getHours() | value.getMinutes() | value.getSeconds();
+  return field(value.getYear()) < 10'000 && field(value.getMilliSeconds()) < 1000 && field(others) < 64;
+}
+
+char* putDate(char* out, const DateTime& value) {
+  const std::size_t year = field(value.getYear());
+  out = putPair(putPair(out, year / 100), year % 100);
+  return putPair(putPair(out, field(value.getMonth())), field(value.getDate()));
+}
+
+char* putTime(char* out, const DateTime& value) {
+  out = putPair(out, field(value.getHours()));
+  *out++ = ':';
+  out = putPair(out, field(value.getMinutes()));
+  *out++ = ':';
+  out = putPair(out, field(value.getSeconds()));
+  const std::size_t milliseconds = field(value.getMilliSeconds());
+  if (milliseconds == 0) return out;
+  *out++ = '.';
+  *out++ = static_cast<char>('0' + milliseconds / 100);
+  return putPair(out, milliseconds % 100);
+}
 
 zkstring& format(const DateTime& value, const zkstring& pattern, zkstring& out) {
   Parsing::formatDate(value, pattern, out);
@@ -26,13 +70,21 @@ zkstring& format(const DateTime& value, const zkstring& pattern, zkstring& out) 
 DateTime TagValueType::parseUTCTimestamp(const zkstring& text) { return Parsing::parseDate(text, timestamp.of(text)); }
 
 zkstring& TagValueType::formatUTCTimestamp(const DateTime& value, zkstring& out) {
-  return format(value, timestamp.of(value), out);
+  if (!isOrdinary(value)) return format(value, timestamp.of(value), out);
+  char* const text = out.getBuffer(widestTime);
+  char* const time = putDate(text, value);
+  *time = '-';
+  out.setBufferLength(static_cast<int>(putTime(time + 1, value) - text));
+  return out;
 }
 
 DateTime TagValueType::parseUTCTimeOnly(const zkstring& text) { return Parsing::parseDate(text, timeOnly.of(text)); }
 
 zkstring& TagValueType::formatUTCTimeOnly(const DateTime& value, zkstring& out) {
-  return format(value, timeOnly.of(value), out);
+  if (!isOrdinary(value)) return format(value, timeOnly.of(value), out);
+  char* const text = out.getBuffer(widestTime);
+  out.setBufferLength(static_cast<int>(putTime(text, value) - text));
+  return out;
 }
 
 DateTime TagValueType::parseUTCDate(const zkstring& text) { return Parsing::parseDate(text, date); }

@@ -42,6 +42,7 @@
 #include "ExceptionObject.h"
 #include "Exceptions.h"
 #include "ExternalObject.h"
+#include "FieldBuffer.h"
 #include "FieldInvalid.h"
 #include "FieldMetaInfo.h"
 #include "FieldsValidationRules.h"

@@ -1,5 +1,7 @@
 #include "fix/FIXType.h"
 
+#include <random>
+
 #include "Support.h"
 
 namespace zarvik {
@@ -15,10 +17,7 @@ TEST(FIXType, readsWhatItWrites) {
   } rows[] = {
       {FIXType::formatUTCTimestamp, FIXType::parseUTCTimestamp, {2001, 2, 3, 4, 5, 6, 0}, "20010203-04:05:06"},
       {FIXType::formatUTCTimestamp, FIXType::parseUTCTimestamp, {2001, 2, 3, 4, 5, 6, 7}, "20010203-04:05:06.007"},
-      {FIXType::formatUTCTimeOnly, FIXType::parseUTCTimeOnly, {1970, 1, 1, 4, 5, 6, 0}, "04:05:06"},
-      {FIXType::formatUTCTimeOnly, FIXType::parseUTCTimeOnly, {1970, 1, 1, 4, 5, 6, 70}, "04:05:06.070"},
       {FIXType::formatLocalMktTimeOnly, FIXType::parseLocalMktTimeOnly, {1970, 1, 1, 4, 5, 6, 70}, "04:05:06.070"},
-      {FIXType::formatUTCDate, FIXType::parseUTCDate, {2001, 2, 3, 0, 0, 0, 0}, "20010203"},
       {FIXType::formatLocalMktDate, FIXType::parseLocalMktDate, {2001, 2, 3, 0, 0, 0, 0}, "20010203"},
       {FIXType::formatLocalMktTimestamp,
        FIXType::parseLocalMktTimestamp,
@@ -38,6 +37,21 @@ TEST(FIXType, readsWhatItWrites) {
   EXPECT_THROW(FIXType::parseLocalMktTimestamp("20010203-04:05:06.007"), TransformRuntimeException);
   EXPECT_EQ(FIXType::formatUTCTimestamp_int64(precise, text), std::to_string(precise.toTimestamp()).c_str());
   EXPECT_EQ(FIXType::parseUTCTimestamp_int64(text), precise);
+}
+
+/// The quick way of dates against the patterns, ordinary dates and others.
+TEST(FIXType, writesDatesAsThePatternsDo) {
+  std::mt19937 random(3);
+  const auto upTo = [&random](int end) { return static_cast<int>(random() % static_cast<unsigned int>(end)); };
+  for (int i = 0; i < 5000; ++i) {
+    const int year = i % 10 == 0 ? upTo(37480) - 4712 : upTo(10000);
+    const DateTime value(Date(year, 1 + upTo(12), 1 + upTo(21)),
+                         Time(upTo(24), upTo(60), upTo(60), i % 3 == 0 ? 0 : upTo(1000)));
+    const zkstring end(value.getMilliSeconds() == 0 ? "HH:mm:ss" : "HH:mm:ss.SSS");
+    zkstring text;
+    EXPECT_EQ(FIXType::formatUTCTimestamp(value, text), Parsing::formatDate(value, "yyyyMMdd-" + end));
+    EXPECT_EQ(FIXType::formatUTCTimeOnly(value, text), Parsing::formatDate(value, end));
+  }
 }
 
 TEST(FIXType, knowsABooleanByItsFirstByte) {

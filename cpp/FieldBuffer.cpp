@@ -1,0 +1,38 @@
+#include "FieldBuffer.h"
+
+#include <algorithm>
+#include <limits>
+#include <new>
+
+namespace zarvik {
+namespace {
+
+constexpr std::size_t largest = std::numeric_limits<int>::max() / 2;
+}
+
+FieldBuffer& FieldBuffer::operator=(const FieldBuffer& other) {
+  if (this == &other) return *this;
+  clear();
+  append(other.view());
+  return *this;
+}
+
+void FieldBuffer::append(std::string_view bytes) {
+  reserve(bytes.size());
+  setNext(std::copy(bytes.begin(), bytes.end(), behind));
+}
+
+void FieldBuffer::reserve(std::size_t added) {
+  const std::size_t used = size();
+  const auto capacity = static_cast<std::size_t>(full - block.get());
+  if (block != nullptr && used + added <= capacity) return;
+  if (added > largest - used) throw std::bad_array_new_length();
+  const std::size_t larger = std::max(used + added, 2 * capacity);
+  std::unique_ptr<char[]> bytes(new char[larger + spare]);
+  std::copy(block.get(), behind, bytes.get());
+  block = std::move(bytes);
+  behind = block.get() + used;
+  full = block.get() + larger;
+}
+
+}  // namespace zarvik
