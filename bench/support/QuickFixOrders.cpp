@@ -26,6 +26,18 @@ double sum(const FIX::FieldMap& message) {
 }
 }  // namespace
 
+int parse(const std::string& text) {
+  FIX::Message message;
+  message.setString(text, false);
+  return message.getHeader().totalFields() + message.totalFields() + message.getTrailer().totalFields();
+}
+
+int parseHeader(const std::string& text) {
+  FIX::Message message;
+  message.setStringHeader(text);
+  return message.getHeader().totalFields();
+}
+
 double readOrder(const std::string& text) {
   FIX::Message message;
   message.setString(text, false);
