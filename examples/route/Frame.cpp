@@ -2,17 +2,32 @@
 
 #include <charconv>
 #include <numeric>
+#include <string>
+
+#include "Exceptions.h"
+#include "InputSource.h"
+#include "ThrowFrom.h"
 
 namespace route {
 namespace {
 
-/// Takes the field that starts with `tag` (such as "8=") off the front of `rest`; false if another one stands there.
-bool takeField(std::string_view& rest, std::string_view tag, std::string_view& value) {
+constexpr char here[] = "examples/route/Frame";
+constexpr char fieldEnd = '\x01';
+
+[[noreturn]] void refuse(const std::string& why) {
+  zarvik::FIXParsingException error(why.c_str());
+  error.setPhase(zarvik::ExceptionObject::getINPUT_PHASE());
+  error.setErrorType(zarvik::ExceptionObject::getERROR_TYPE_PARSING());
+  zarvik::throwFrom(here, error);
+}
+
+/// Takes the field that starts with `tag` (such as "8=") off the front of `rest`, and gives its value.
+std::string_view takeField(std::string_view& rest, std::string_view tag, const char* missing) {
   const std::size_t end = rest.find(fieldEnd);
-  if (end == std::string_view::npos || !rest.starts_with(tag)) return false;
-  value = rest.substr(tag.size(), end - tag.size());
+  if (end == std::string_view::npos || !rest.starts_with(tag)) refuse(missing);
+  const std::string_view value = rest.substr(tag.size(), end - tag.size());
   rest.remove_prefix(end + 1);
-  return true;
+  return value;
 }
 
 bool readNumber(std::string_view digits, std::size_t& number) {
@@ -21,43 +36,45 @@ bool readNumber(std::string_view digits, std::size_t& number) {
   return error == std::errc() && stop == end && !digits.empty();
 }
 
-std::size_t checksumOf(std::string_view bytes) {
-  return std::accumulate(bytes.begin(), bytes.end(), std::size_t{0},
-                         [](std::size_t sum, char byte) { return (sum + static_cast<unsigned char>(byte)) % 256; });
-}
-
-std::string mismatch(const char* field, std::size_t told, std::size_t counted) {
-  return std::string(field) + " is " + std::to_string(told) + ", counted " + std::to_string(counted);
+void compare(const char* field, std::size_t told, std::size_t counted) {
+  if (told == counted) return;
+  refuse(std::string(field) + " is " + std::to_string(told) + ", counted " + std::to_string(counted));
 }
 }  // namespace
 
-std::string readFrame(std::string_view message, Frame& frame) {
+void checkFrame(std::string_view message) {
   constexpr std::string_view trailerStart(
       "\x01"
       "10=");
   constexpr std::size_t trailerSize = 7;  // "10=", three digits and the field's end
 
   std::string_view rest = message;
-  if (!takeField(rest, "8=", frame.beginString)) return "BeginString (8) is not the first field";
-  if (!frame.beginString.starts_with("FIX")) return "BeginString (8) is not of FIX";
-  std::string_view lengthText;
+  takeField(rest, "8=", "BeginString (8) is not the first field");
   std::size_t length = 0;
-  if (!takeField(rest, "9=", lengthText)) return "BodyLength (9) is not the second field";
-  if (!readNumber(lengthText, length)) return "BodyLength (9) is not a number";
+  if (!readNumber(takeField(rest, "9=", "BodyLength (9) is not the second field"), length)) {
+    refuse("BodyLength (9) is not a number");
+  }
   const std::string_view body = rest;
-  if (!takeField(rest, "35=", frame.messageType)) return "MsgType (35) is not the third field";
-  if (frame.messageType.empty()) return "MsgType (35) is empty";
+  takeField(rest, "35=", "MsgType (35) is not the third field");
 
   const std::size_t trailer = body.rfind(trailerStart) + 1;  // 0 if there is none
   std::size_t checksum = 0;
   if (trailer == 0 || body.size() - trailer != trailerSize || body.back() != fieldEnd ||
       !readNumber(body.substr(trailer + 3, 3), checksum)) {
-    return "CheckSum (10) of three digits is not the last field";
+    refuse("CheckSum (10) of three digits is not the last field");
   }
-  if (length != trailer) return mismatch("BodyLength (9)", length, trailer);
-  const std::size_t sum = checksumOf(message.substr(0, message.size() - trailerSize));
-  if (checksum != sum) return mismatch("CheckSum (10)", checksum, sum);
-  return {};
+  compare("BodyLength (9)", length, trailer);
+  const std::string_view summed = message.substr(0, message.size() - trailerSize);
+  const auto add = [](unsigned int sum, char byte) { return sum + static_cast<unsigned char>(byte); };
+  compare("CheckSum (10)", checksum, std::accumulate(summed.begin(), summed.end(), 0U, add) % 256);
+}
+
+zarvik::DataObject* FrameCheckingIdentifier::identifyMessage(zarvik::InputSource& source) {
+  int length = 0;
+  const char* const bytes = source.getAsBytes(length);
+  const std::string_view message(bytes, static_cast<std::size_t>(length));
+  if (message.starts_with("8=FIX")) checkFrame(message);
+  return FIXMessageIdentifier::identifyMessage(source);
 }
 
 }  // namespace route

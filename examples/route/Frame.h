@@ -1,20 +1,19 @@
 #pragma once
 
-#include <string>
 #include <string_view>
+
+#include "fix/FIXMessageIdentifier.h"
 
 namespace route {
 
-constexpr char fieldEnd = '\x01';
+/// Throws zarvik::FIXParsingException unless the frame of `message` is sound: BeginString, BodyLength and MsgType come
+/// first, in this order, the checksum comes last, and length and checksum are right. Fields end in byte 1.
+void checkFrame(std::string_view message);
 
-/// What the frame of a FIX message tells; views of the message.
-struct Frame {
-  std::string_view beginString;
-  std::string_view messageType;
+/// Knows FIX messages as the library does, and holds them to their frame, which the library leaves to the host.
+class FrameCheckingIdentifier : public zarvik::FIXMessageIdentifier {
+ public:
+  zarvik::DataObject* identifyMessage(zarvik::InputSource& source) override;
 };
-
-/// Reads the frame of `message`, whose fields end in byte 1: BeginString, BodyLength and MsgType come first, in this
-/// order, and length and checksum are right. Fills `frame` and gives an empty text, or tells what is wrong.
-std::string readFrame(std::string_view message, Frame& frame);
 
 }  // namespace route

@@ -1,16 +1,18 @@
 #include "Host.h"
 
+#include <algorithm>
 #include <cerrno>
+#include <climits>
 #include <cstdio>
 #include <istream>
 #include <stdexcept>
 #include <system_error>
 
-#include "Class.h"
-#include "CountingFormat.h"
 #include "Exceptions.h"
-#include "LineSource.h"
+#include "Frame.h"
 #include "Rows.h"
+#include "Show.h"
+#include "StringInputSource.h"
 #include "TransformContext.h"
 
 using namespace zarvik;
@@ -18,27 +20,37 @@ using namespace zarvik;
 namespace route {
 namespace {
 
-MessageIdentificationService* serviceOf(MessageIdentifier* identifier) {
+constexpr const char* unrecognised = "unrecognised";
+constexpr const char* unhandled = "unhandled";
+constexpr const char* failed = "failed";
+
+MessageIdentificationService* identificationService() {
   auto* const service = new MessageIdentificationService;
-  service->registerMessageIdentifer(identifier);
+  service->registerMessageIdentifer(new FrameCheckingIdentifier);
   return service;
+}
+
+/// The message in a line, without its line end. In a line without any SOH, `|` stands for it.
+zkstring messageOf(std::string_view line) {
+  if (line.ends_with('\r')) line.remove_suffix(1);
+  if (line.size() > INT_MAX) throw std::length_error("The line is longer than 2 GiB");
+  std::string text(line);
+  if (text.find('\x01') == std::string::npos) std::replace(text.begin(), text.end(), '|', '\x01');
+  return zkstring(text.data(), static_cast<unsigned int>(text.size()));
 }
 
 std::string textOf(const zkstring& text) { return std::string(text.data(), text.length()); }
 
-/// The class of the error and its text, word for word.
-std::string reasonOf(const Exception& error) {
-  return textOf(Class(typeid(error)).getName()) + ": " + textOf(error.getMessage());
-}
+Errors only(TransformException* error) { return {SmartPtr<ExceptionDataObject>(error)}; }
 }  // namespace
 
-Host::Host(const std::string& rejectFile, bool quiet)
-    : rejects(rejectFile),
-      rejectFileName(rejectFile),
-      quiet(quiet),
-      progress(quiet),
-      identifier(new FixIdentifier),
-      router(serviceOf(identifier)) {
+Host::Host(const Options& options)
+    : options(options),
+      rejects(options.rejectFile),
+      progress(options.quiet),
+      outputs(options.show ? "" : options.outputFolder),
+      router(identificationService()),
+      collector(router) {
   addRows(router);
 }
 
@@ -56,48 +68,66 @@ void Host::takeAll(std::istream& input, const std::string& name) {
 
 void Host::take(const std::string& line, const std::string& origin) {
   ++messages;
-  TransformContext context;
+  if (options.show) std::printf("\n%s:\n%s\n", origin.c_str(), readable(line).c_str());
   try {
-    LineSource source(std::string_view(line).substr(0, line.ends_with('\r') ? line.size() - 1 : line.size()));
+    StringInputSource source(messageOf(line));
+    TransformContext context;
+    context.setProperty(TransformContext::INPUT_SOURCE_PROPERTY, origin.c_str());
+    if (options.show) context.createOutputContext();
+    if (options.collect) {
+      const Errors errors = collector.errorsOf(source, context);
+      if (!errors.empty()) return reject(failed, errors, line, origin);
+    }
     router.processMessage(source, context);
     const std::string row = textOf(context.getProperty(ROW_PROPERTY));
     ++routed[row];
-    if (!quiet) {
-      std::printf("%s: %s, %s fields\n", origin.c_str(), row.c_str(),
-                  context.getProperty(CountingFormat::FIELDS_PROPERTY).c_str());
-    }
+    if (options.show) return showOutputs(context);
+    if (!options.quiet) std::printf("%s: %s\n", origin.c_str(), row.c_str());
   } catch (const UnrecognizedMessageException& error) {
-    reject(unrecognised, reasonOf(error) + " (" + identifier->getProblem() + ")", line, origin);
+    reject(unrecognised, only(new TransformException(error)), line, origin);
   } catch (const UnhandledMessageException& error) {
-    reject(unhandled, reasonOf(error), line, origin);
-  } catch (const Exception& error) {
-    const zkstring row = context.getProperty(ROW_PROPERTY);
-    reject(failed, reasonOf(error) + (row.empty() ? "" : " (row " + textOf(row) + ")"), line, origin);
+    reject(unhandled, only(new TransformException(error)), line, origin);
+  } catch (const TransformException& error) {
+    reject(failed, only(new TransformException(error)), line, origin);
   } catch (const std::length_error& error) {
-    reject(failed, error.what(), line, origin);
+    reject(failed, only(new TransformException(error.what())), line, origin);
   }
 }
 
-void Host::reject(long& count, const std::string& reason, const std::string& line, const std::string& origin) {
-  ++count;
-  rejects.add(origin, reason, line);
-  if (!quiet) std::printf("%s: rejected, %s\n", origin.c_str(), reason.substr(0, reason.find('\n')).c_str());
+void Host::reject(const char* what, const Errors& errors, const std::string& line, const std::string& origin) {
+  ++rejected[what];
+  std::string xml;
+  for (const auto& error : errors) xml += textOf(error->toXMLString());
+  rejects.add(origin + ", " + what, xml, line);
+  if (options.quiet) return;
+  if (options.show) return static_cast<void>(std::printf("Rejected, %s:\n%s\n", what, readable(xml).c_str()));
+  const std::string first = textOf(errors.front()->getMessage());
+  std::printf("%s: %s, %s", origin.c_str(), what, first.substr(0, first.find('\n')).c_str());
+  if (errors.size() > 1) std::printf(" (and %zu more)", errors.size() - 1);
+  std::printf("\n");
 }
 
 void Host::printSummary() {
   progress.clear();
+  const std::map<std::string, long> written = outputs.finish();
   const auto print = [](const char* indent, const std::string& what, long count) {
-    std::printf("%s%-*s%8ld\n", indent, indent[0] == '\0' ? 28 : 26, what.c_str(), count);
+    std::printf("%s%-*s%8ld\n", indent, indent[0] == '\0' ? 32 : 30, what.c_str(), count);
   };
-  long total = 0;
-  for (const auto& [row, count] : routed) total += count;
+  const auto printAll = [&](const char* title, const std::map<std::string, long>& counts) {
+    long total = 0;
+    for (const auto& [what, count] : counts) total += count;
+    print("", title, total);
+    for (const auto& [what, count] : counts) print("  ", what, count);
+    return total;
+  };
+  const std::chrono::duration<double> seconds = Clock::now() - start;
+  if (options.show) std::printf("\n");
   print("", "messages", messages);
-  print("", "routed", total);
-  for (const auto& [row, count] : routed) print("  ", row, count);
-  print("", "unrecognised", unrecognised);
-  print("", "unhandled", unhandled);
-  print("", "failed", failed);
-  if (total < messages) std::printf("%ld rejected messages appended to %s\n", messages - total, rejectFileName.c_str());
+  print("", "messages per second", static_cast<long>(static_cast<double>(messages) / seconds.count()));
+  printAll("routed", routed);
+  const long refused = printAll("rejected", rejected);
+  if (!options.show) printAll("written", written);
+  if (refused != 0) std::printf("%ld rejected messages appended to %s\n", refused, options.rejectFile.c_str());
 }
 
 }  // namespace route

@@ -1,11 +1,14 @@
 #pragma once
 
+#include <chrono>
 #include <iosfwd>
 #include <map>
 #include <string>
 
-#include "FixIdentifier.h"
+#include "Collector.h"
 #include "MessageRouter.h"
+#include "Options.h"
+#include "Outputs.h"
 #include "Progress.h"
 #include "RejectFile.h"
 
@@ -14,28 +17,30 @@ namespace route {
 /// Hands lines to a router, prints what became of each, keeps the refused ones, and counts.
 class Host {
  public:
-  Host(const std::string& rejectFile, bool quiet);
+  explicit Host(const Options& options);
 
   /// Takes every line of `input`; `name` is how the output calls it. Throws std::system_error when reading fails.
   void takeAll(std::istream& input, const std::string& name);
+  /// Throws std::system_error when the outputs could not all be written.
   void printSummary();
 
  private:
+  using Clock = std::chrono::steady_clock;
+
   void take(const std::string& line, const std::string& origin);
-  void reject(long& count, const std::string& reason, const std::string& line, const std::string& origin);
+  void reject(const char* what, const Errors& errors, const std::string& line, const std::string& origin);
 
+  const Options options;
   RejectFile rejects;
-  std::string rejectFileName;
-  bool quiet;
   Progress progress;
-  FixIdentifier* identifier;  ///< belongs to the router's service
+  Outputs outputs;
   zarvik::MessageRouter router;
+  Collector collector;
 
-  std::map<std::string, long> routed;  ///< by row
+  std::map<std::string, long> routed;    ///< by row
+  std::map<std::string, long> rejected;  ///< by kind
   long messages = 0;
-  long unrecognised = 0;
-  long unhandled = 0;
-  long failed = 0;
+  const Clock::time_point start = Clock::now();
 };
 
 }  // namespace route

@@ -8,6 +8,9 @@ namespace route {
 struct Options {
   std::vector<std::string> inputs;  ///< file names; "-" is standard input
   std::string rejectFile = "route.rejects";
+  std::string outputFolder = "route.out";
+  bool collect = false;
+  bool show = false;
   bool quiet = false;
   bool help = false;
 };

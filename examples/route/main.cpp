@@ -48,7 +48,7 @@ void takeInput(route::Host& host, const std::string& name) {
 
 void run(const Options& options) {
   checkInputs(options);
-  route::Host host(options.rejectFile, options.quiet);
+  route::Host host(options);
   for (const std::string& input : options.inputs) takeInput(host, input);
   host.printSummary();
 }
