@@ -9,14 +9,14 @@ parsed, normalised, checked and written in the other version; other messages are
 message a line, with SOH or '|' between the fields; empty lines are skipped. Without a file, or for '-', it reads
 standard input.
 
-  --out FOLDER   write one file for each output device to FOLDER, which is made anew: an output a line. Large orders
+  --out FOLDER   write one file for each output device to FOLDER, made if it is not there: an output a line. Large orders
                  (as XML) and executions (in a compact form) are also filed there, each in a file of its own;
                  default: route.out in the working directory
   --reject FILE  append each message that is not processed to FILE, under lines starting with '#' that tell where it
                  came from and, as XML, why it was refused; default: route.rejects in the working directory.
                  The messages alone: grep -av '^#' FILE
   --collect      check each message before it is processed, and tell all of its errors, not only the first
-  --show         print each message, its normalised form and what is written of it; nothing goes to files
+  --show         print each message, its normalised form and what is written of it; no output goes to files
   --quiet        print the summary only
   --help         print this text and the rows
 

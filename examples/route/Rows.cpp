@@ -9,7 +9,6 @@
 #include "ObjectFactory.h"
 #include "PlainFormat.h"
 #include "TransformContext.h"
-#include "orders/Names.h"
 
 using namespace zarvik;
 
@@ -68,8 +67,6 @@ MessageConfiguration* configurationOf(const Row& row) {
   set(TransformContext::INPUT_FORMAT_PROPERTY, inputFormatOf(row).c_str());
   set(TransformContext::OUTPUT_FORMAT_PROPERTY, row.outputFormat);
   set(TransformContext::OUTPUT_DEVICE_PROPERTY, row.device);
-  set(orders::SENDER_PROPERTY, "HOUSE");
-  set(orders::TARGET_PROPERTY, "STREET");
   return configuration;
 }
 }  // namespace

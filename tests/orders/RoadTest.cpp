@@ -114,6 +114,7 @@ TEST_F(Road, tellsWhatIsWrong) {
        "not "
        "valid"},
       {order42, "44=247.3", "44=247,3", "TransformException, Input: Cannot convert '247,3' to double"},
+      {order42, "44=247.3", "44=1e309", "FieldParsingException, Input, Price: Number '1e309' is too large"},
       {order42, "40=2", "40=3", "FieldParsingException, Input, OrdType: OrdType '3' is not supported"},
       {order42, "59=0", "59=6", "FieldParsingException, Input, TimeInForce: TimeInForce '6' is not supported"},
       {order42, "60=20260310-14", "60=20261310-14", "TransformRuntimeException, Input: Illegal date 2026-13-10"},

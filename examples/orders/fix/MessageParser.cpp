@@ -1,5 +1,6 @@
 #include "orders/fix/MessageParser.h"
 
+#include <cmath>
 #include <memory>
 
 #include "Parsing.h"
@@ -104,7 +105,10 @@ int MessageParser::integer(Record& record, int index, const Field& field) {
 }
 
 double MessageParser::number(Record& record, int index, const Field& field) {
-  return Parsing::parseDouble(text(record, index, field));
+  const zkstring& value = text(record, index, field);
+  const double parsed = Parsing::parseDouble(value);
+  if (std::isfinite(parsed)) return parsed;
+  throwFrom(here, FieldParsingException("Number '" + value + "' is too large", record.getFieldName(index)));
 }
 
 DateTime MessageParser::timestamp(Record& record, int index, const Field& field) {
