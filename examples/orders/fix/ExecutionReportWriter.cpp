@@ -1,6 +1,6 @@
 #include "orders/fix/ExecutionReportWriter.h"
 
-#include "GuardedCast.h"
+#include "orders/As.h"
 #include "orders/fix/ExecutionReport.h"
 
 using namespace zarvik;
@@ -8,7 +8,7 @@ using namespace zarvik;
 namespace orders {
 
 void ExecutionReportWriter::writeData(DataObject* data, TransformContext& /*context*/) {
-  ExecutionReport& report = *guardedCast<ExecutionReport>(data);
+  auto& report = as<ExecutionReport>(data);
   require(report, ExecutionReport::ORDER_ID, 37);
   require(report, ExecutionReport::EXEC_ID, 17);
   if (!is44()) require(report, ExecutionReport::EXEC_TRANS_TYPE, 20);

@@ -3,7 +3,7 @@
 #include "AbstractExternalMessage.h"
 #include "AbstractInputFormat.h"
 #include "AbstractOutputFormat.h"
-#include "GuardedCast.h"
+#include "orders/As.h"
 #include "orders/Names.h"
 #include "orders/Order.h"
 #include "orders/fix/Kinds.h"
@@ -61,11 +61,11 @@ class FIXOutput : public zarvik::AbstractOutputFormat {
   zarvik::DataObject* createRecordData() override { return body->reset(), body.get(); }
   void mapHeader(zarvik::DataObject* input, zarvik::DataObject* /*header*/,
                  zarvik::TransformContext& context) override {
-    fromOrder(*zarvik::guardedCast<Order>(input), version, Kind::TYPE, context, *header);
+    fromOrder(as<Order>(input), version, Kind::TYPE, context, *header);
   }
   void mapData(zarvik::DataObject* input, zarvik::DataObject* /*data*/,
                zarvik::TransformContext& /*context*/) override {
-    fromOrder(*zarvik::guardedCast<Order>(input), version, *body);
+    fromOrder(as<Order>(input), version, *body);
   }
   zarvik::OutputWriter* getOutputWriter() override { return &writer; }
 

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "GuardedCast.h"
 #include "Parsing.h"
 #include "fix/FIXHeader.h"
+#include "orders/As.h"
 #include "orders/fix/ExecutionReport.h"
 #include "orders/fix/FIXTrailer.h"
 #include "orders/fix/NewOrderSingle.h"
@@ -14,14 +14,14 @@ using namespace zarvik;
 namespace orders {
 
 void MessageRules::validateHeader0(DataObject* part) {
-  auto* const header = guardedCast<FIXHeader>(part);
+  auto* const header = &as<FIXHeader>(part);
   check(header->getBeginString() == beginString(version), "version", header, FIXHeader::BEGIN_STRING);
   check(header->getMsgType() == messageType, "message type", header, FIXHeader::MSG_TYPE);
   check(header->getSenderCompID() != header->getTargetCompID(), "two parties", header, FIXHeader::TARGET_COMP_ID);
 }
 
 void MessageRules::validateTrailer0(DataObject* part) {
-  auto* const trailer = guardedCast<FIXTrailer>(part);
+  auto* const trailer = &as<FIXTrailer>(part);
   if (trailer->isNull(FIXTrailer::CHECK_SUM)) return;  // a message that is yet to be written
   const zkstring& sum = trailer->getCheckSum();
   const bool threeDigits =
@@ -30,7 +30,7 @@ void MessageRules::validateTrailer0(DataObject* part) {
 }
 
 void NewOrderSingleRules::validateData0(DataObject* /*header*/, DataObject* data) {
-  auto* const order = guardedCast<NewOrderSingle>(data);
+  auto* const order = &as<NewOrderSingle>(data);
   check(order->getOrderQty() > 0, "positive", order, NewOrderSingle::ORDER_QTY);
   check((order->getOrdType() == '2') == order->isNotNull(NewOrderSingle::PRICE), "limit orders have a price", order,
         NewOrderSingle::PRICE);
@@ -42,7 +42,7 @@ void NewOrderSingleRules::validateData0(DataObject* /*header*/, DataObject* data
 }
 
 void ExecutionReportRules::validateData0(DataObject* /*header*/, DataObject* data) {
-  auto* const report = guardedCast<ExecutionReport>(data);
+  auto* const report = &as<ExecutionReport>(data);
   check(report->getCumQty() >= 0, "not negative", report, ExecutionReport::CUM_QTY);
   check(report->getLeavesQty() >= 0, "not negative", report, ExecutionReport::LEAVES_QTY);
   check(report->getCumQty() == 0 || report->getAvgPx() > 0, "what is filled has a price", report,

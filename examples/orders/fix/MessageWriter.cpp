@@ -1,14 +1,14 @@
 #include "orders/fix/MessageWriter.h"
 
-#include "GuardedCast.h"
 #include "fix/FIXType.h"
+#include "orders/As.h"
 
 using namespace zarvik;
 
 namespace orders {
 
 void MessageWriter::writeHeader(DataObject* part, TransformContext& /*context*/) {
-  FIXHeader& header = *guardedCast<FIXHeader>(part);
+  auto& header = as<FIXHeader>(part);
   require(header, FIXHeader::BEGIN_STRING, 8);
   require(header, FIXHeader::MSG_TYPE, 35);
   require(header, FIXHeader::SENDER_COMP_ID, 49);

@@ -1,6 +1,6 @@
 #include "orders/fix/NewOrderSingleWriter.h"
 
-#include "GuardedCast.h"
+#include "orders/As.h"
 #include "orders/fix/NewOrderSingle.h"
 
 using namespace zarvik;
@@ -8,7 +8,7 @@ using namespace zarvik;
 namespace orders {
 
 void NewOrderSingleWriter::writeData(DataObject* data, TransformContext& /*context*/) {
-  NewOrderSingle& order = *guardedCast<NewOrderSingle>(data);
+  auto& order = as<NewOrderSingle>(data);
   require(order, NewOrderSingle::CL_ORD_ID, 11);
   if (!is44()) require(order, NewOrderSingle::HANDL_INST, 21);
   require(order, NewOrderSingle::SYMBOL, 55);

@@ -1,7 +1,7 @@
 #include "orders/internal/OrderRules.h"
 
-#include "GuardedCast.h"
 #include "Parsing.h"
+#include "orders/As.h"
 #include "orders/Instrument.h"
 #include "orders/Names.h"
 #include "orders/Order.h"
@@ -11,13 +11,13 @@ using namespace zarvik;
 namespace orders {
 
 void OrderPreprocessing::process(DataObject* object) {
-  Order& order = *guardedCast<Order>(object);
+  auto& order = as<Order>(object);
   if (order.isNull(Order::URGENT)) order.setUrgent(false);
   if (order.isNull(Order::TRADE_DATE) && order.isNotNull(Order::ENTERED)) order.setTradeDate(order.getEntered());
 }
 
 void OrderValidation::validate(DataObject* object) {
-  auto* const order = guardedCast<Order>(object);
+  auto* const order = &as<Order>(object);
   check(order->isNotNull(Order::ID), "present", order, Order::ID);
   check(order->isNotNull(Order::QUANTITY) && order->getQuantity() > 0, "positive", order, Order::QUANTITY);
   check(order->isNull(Order::PRICE) || order->getPrice() > 0, "positive", order, Order::PRICE);
@@ -30,7 +30,7 @@ void OrderValidation::validate(DataObject* object) {
 }
 
 void OrderPostprocessing::process(DataObject* object) {
-  Order& order = *guardedCast<Order>(object);
+  auto& order = as<Order>(object);
   if (order.isNull(Order::PRICE)) return;
   const BigDecimal price(Parsing::doubleToString(order.getPrice()));  // as it was written, and so exact
   order.setNotional(BigDecimal(order.getQuantity()) * price);

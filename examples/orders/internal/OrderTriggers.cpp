@@ -1,8 +1,8 @@
 #include "orders/internal/OrderTriggers.h"
 
-#include "GuardedCast.h"
 #include "ITrigger.h"
 #include "TransformContext.h"
+#include "orders/As.h"
 #include "orders/Execution.h"
 #include "orders/Names.h"
 #include "orders/Order.h"
@@ -33,7 +33,7 @@ OrderTriggers::OrderTriggers()
 }
 
 void OrderTriggers::onNewMessage0(DataObject* message, TransformContext& context) {
-  Order& order = *guardedCast<Order>(message);
+  auto& order = as<Order>(message);
   getTriggerObject(delivery)->onNewMessage(message, context);
   if (isLarge(order)) getTriggerObject(archive)->onNewMessage(message, context);
   if (order.getExecutions().getElementCount() != 0) getTriggerObject(journal)->onNewMessage(message, context);
