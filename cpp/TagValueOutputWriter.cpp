@@ -117,11 +117,12 @@ zkstring TagValueOutputWriter::finish(std::size_t head, std::string_view inserte
 
 void TagValueOutputWriter::writeCheckSum(char* end, const char* begin) const {
   const unsigned int sum = generateCheckSum(begin, static_cast<unsigned int>(end - begin));
+  const unsigned int tens = sum / 10;
   const char field[] = {'1',
                         '0',
                         '=',
-                        static_cast<char>('0' + sum / 100),
-                        static_cast<char>('0' + sum / 10 % 10),
+                        static_cast<char>('0' + tens / 10),
+                        static_cast<char>('0' + tens % 10),
                         static_cast<char>('0' + sum % 10),
                         delimiter};
   static_assert(sizeof field == checkSumSize);
