@@ -10,27 +10,26 @@ namespace orders {
 void ExecutionReportWriter::writeData(DataObject* data, TransformContext& /*context*/) {
   auto& report = as<ExecutionReport>(data);
   require(report, ExecutionReport::ORDER_ID, 37);
-  require(report, ExecutionReport::EXEC_ID, 17);
-  if (!is44()) require(report, ExecutionReport::EXEC_TRANS_TYPE, 20);
-  require(report, ExecutionReport::EXEC_TYPE, 150);
-  require(report, ExecutionReport::ORD_STATUS, 39);
-  require(report, ExecutionReport::SYMBOL, 55);
-  require(report, ExecutionReport::SIDE, 54);
-  require(report, ExecutionReport::LEAVES_QTY, 151);
-  require(report, ExecutionReport::CUM_QTY, 14);
-  require(report, ExecutionReport::AVG_PX, 6);
   appendField("37", report.getOrderID());
   if (report.isNotNull(ExecutionReport::CL_ORD_ID)) appendField("11", report.getClOrdID());
+  require(report, ExecutionReport::EXEC_ID, 17);
   appendField("17", report.getExecID());
-  if (!is44()) appendField("20", report.getExecTransType());
+  if (!is44()) {
+    require(report, ExecutionReport::EXEC_TRANS_TYPE, 20);
+    appendField("20", report.getExecTransType());
+  }
+  require(report, ExecutionReport::EXEC_TYPE, 150);
   appendField("150", report.getExecType());
+  require(report, ExecutionReport::ORD_STATUS, 39);
   appendField("39", report.getOrdStatus());
   if (report.isNotNull(ExecutionReport::ACCOUNT)) appendField("1", report.getAccount());
+  require(report, ExecutionReport::SYMBOL, 55);
   appendField("55", report.getSymbol());
   if (report.isNotNull(ExecutionReport::SECURITY_ID)) appendField("48", report.getSecurityID());
   if (report.isNotNull(ExecutionReport::SECURITY_ID_SOURCE)) appendField("22", report.getSecurityIDSource());
   if (is44() && report.isNotNull(ExecutionReport::MATURITY_DATE)) appendDate("541", report.getMaturityDate());
   if (report.isNotNull(ExecutionReport::SECURITY_EXCHANGE)) appendField("207", report.getSecurityExchange());
+  require(report, ExecutionReport::SIDE, 54);
   appendField("54", report.getSide());
   if (report.isNotNull(ExecutionReport::ORDER_QTY)) appendField("38", report.getOrderQty());
   if (report.isNotNull(ExecutionReport::ORD_TYPE)) appendField("40", report.getOrdType());
@@ -41,8 +40,11 @@ void ExecutionReportWriter::writeData(DataObject* data, TransformContext& /*cont
   if (report.isNotNull(ExecutionReport::LAST_QTY)) appendField("32", report.getLastQty());
   if (report.isNotNull(ExecutionReport::LAST_PX)) appendField("31", report.getLastPx());
   if (report.isNotNull(ExecutionReport::LAST_MKT)) appendField("30", report.getLastMkt());
+  require(report, ExecutionReport::LEAVES_QTY, 151);
   appendField("151", report.getLeavesQty());
+  require(report, ExecutionReport::CUM_QTY, 14);
   appendField("14", report.getCumQty());
+  require(report, ExecutionReport::AVG_PX, 6);
   appendField("6", report.getAvgPx());
   if (report.isNotNull(ExecutionReport::COMMISSION)) appendField("12", report.getCommission());
   if (report.isNotNull(ExecutionReport::TRADE_DATE)) appendDate("75", report.getTradeDate());

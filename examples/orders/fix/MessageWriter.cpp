@@ -10,20 +10,20 @@ namespace orders {
 void MessageWriter::writeHeader(DataObject* part, TransformContext& /*context*/) {
   auto& header = as<FIXHeader>(part);
   require(header, FIXHeader::BEGIN_STRING, 8);
-  require(header, FIXHeader::MSG_TYPE, 35);
-  require(header, FIXHeader::SENDER_COMP_ID, 49);
-  require(header, FIXHeader::TARGET_COMP_ID, 56);
-  require(header, FIXHeader::MSG_SEQ_NUM, 34);
-  require(header, FIXHeader::SENDING_TIME, 52);
   appendField("8", header.getBeginString());
+  require(header, FIXHeader::MSG_TYPE, 35);
   appendField("35", header.getMsgType());
+  require(header, FIXHeader::SENDER_COMP_ID, 49);
   appendField("49", header.getSenderCompID());
+  require(header, FIXHeader::TARGET_COMP_ID, 56);
   appendField("56", header.getTargetCompID());
   if (header.isNotNull(FIXHeader::ON_BEHALF_OF_COMP_ID)) appendField("115", header.getOnBehalfOfCompID());
   if (header.isNotNull(FIXHeader::DELIVER_TO_COMP_ID)) appendField("128", header.getDeliverToCompID());
+  require(header, FIXHeader::MSG_SEQ_NUM, 34);
   appendField("34", header.getMsgSeqNum());
   if (header.isNotNull(FIXHeader::SENDER_SUB_ID)) appendField("50", header.getSenderSubID());
   if (header.isNotNull(FIXHeader::TARGET_SUB_ID)) appendField("57", header.getTargetSubID());
+  require(header, FIXHeader::SENDING_TIME, 52);
   appendField("52", header.getSendingTime());
 }
 
