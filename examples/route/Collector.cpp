@@ -36,20 +36,20 @@ Errors Collector::errorsOf(InputSource& source, TransformContext& context) {
   const zkstring messageName = row[MESSAGE_PROPERTY];
   Errors errors;
   if (LookupContextFactory::getLookupContext()->lookup(messageName) == nullptr) return errors;
-  const auto& [message, inputFormat, normalised] = servicesOf(messageName);
+  const Services& with = servicesOf(messageName);
 
   const zkstring& input = ExceptionObject::getINPUT_PHASE();
-  const SmartPtr<DataObject> parsed = collect(errors, input, [&] { return message->parse2(source, context); });
+  const SmartPtr<DataObject> parsed = collect(errors, input, [&] { return with.message->parse2(source, context); });
   if (parsed.isNull()) return errors;
-  collect(errors, input, [&] { return message->validate2(parsed, context); });
+  collect(errors, input, [&] { return with.message->validate2(parsed, context); });
 
   const SmartPtr<DataObject> order = collect(errors, input, [&] {
-    return Result<SmartPtr<DataObject>>{inputFormat->handleInput(source, context), {}};
+    return Result<SmartPtr<DataObject>>{with.inputFormat->handleInput(source, context), {}};
   });
   if (order.isNull()) return errors;
   const zkstring& internal = ExceptionObject::getINTERNAL_MESSAGE_PHASE();
-  collect(errors, internal, [&] { return normalised->preprocess2(order, context); });
-  collect(errors, internal, [&] { return normalised->validate2(order, context); });
+  collect(errors, internal, [&] { return with.normalised->preprocess2(order, context); });
+  collect(errors, internal, [&] { return with.normalised->validate2(order, context); });
   return errors;
 }
 
