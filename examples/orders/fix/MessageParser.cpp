@@ -97,7 +97,9 @@ void MessageParser::parseTrailer(FIXTrailer& trailer, FIXTokenizer& tokenizer) {
 }
 
 char MessageParser::character(Record& record, int index, const Field& field) {
-  return Parsing::parseChar(text(record, index, field));
+  const char parsed = Parsing::parseChar(text(record, index, field));
+  if (parsed == '\0') FIXInputParser::ensureNotNull(zkstring::EMPTY, &record, index);  // it would be written as nothing
+  return parsed;
 }
 
 int MessageParser::integer(Record& record, int index, const Field& field) {
