@@ -11,6 +11,7 @@
 #include "BigInteger.h"
 #include "Binary.h"
 #include "Exceptions.h"
+#include "TextForms.h"
 #include "ThrowFrom.h"
 #include "date/DateTime.h"
 
@@ -311,6 +312,10 @@ T readWhole(const char* begin, const char* end) {
 }
 
 }  // namespace
+
+char* putText(char* out, int value) { return put(out, value); }
+char* putText(char* out, __int64 value) { return put(out, value); }
+char* putText(char* out, double value) { return put(out, value); }
 
 void writeNumber(int value, char* out) { *put(out, value) = '\0'; }
 void writeNumber(__int64 value, char* out) { *put(out, value) = '\0'; }

@@ -1,12 +1,11 @@
 #include "TagValueOutputWriter.h"
 
 #include <bit>
-#include <charconv>
 
 #include "AbstractDataObject.h"
 #include "ByteScan.h"
-#include "Conversion.h"
 #include "TagNames.h"
+#include "TextForms.h"
 
 namespace zarvik {
 namespace {
@@ -77,21 +76,15 @@ void TagValueOutputWriter::appendChar(FieldTag tag, char value) {
 }
 
 void TagValueOutputWriter::appendWhole(FieldTag tag, int value) {
-  char* const text = tag.put(messageBuffer.next());
-  endField(std::to_chars(text, text + intTextSize, value).ptr);
+  endField(putText(tag.put(messageBuffer.next()), value));
 }
 
 void TagValueOutputWriter::appendWhole(FieldTag tag, __int64 value) {
-  char* const text = tag.put(messageBuffer.next());
-  endField(std::to_chars(text, text + longTextSize, value).ptr);
+  endField(putText(tag.put(messageBuffer.next()), value));
 }
 
 void TagValueOutputWriter::appendDouble(FieldTag tag, double value) {
-  char* const text = tag.put(messageBuffer.next());
-  doubleToString(value, text);
-  char* end = text + 3;  // no text is shorter
-  while (*end != '\0') ++end;
-  endField(end);
+  endField(putText(tag.put(messageBuffer.next()), value));
 }
 
 std::size_t TagValueOutputWriter::firstFieldSize() const {

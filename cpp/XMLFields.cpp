@@ -1,13 +1,12 @@
 #include "XMLFields.h"
 
-#include <charconv>
 #include <cstring>
 
 #include "Boxing.h"
-#include "Conversion.h"
 #include "FieldMetaInfo.h"
 #include "Parsing.h"
 #include "RawMessageObject.h"
+#include "TextForms.h"
 
 namespace zarvik {
 namespace {
@@ -27,15 +26,12 @@ XMLFields::XMLFields(int level, int fieldCount) : level(level), depth(DataObject
 template <class T>
 void XMLFields::setWhole(T value) {
   if (field->hasStoredForm()) return setBoxed(typename Boxing<T>::Box(value));
-  char* const at = beginLine(longTextSize);
-  endLine(std::to_chars(at, at + longTextSize, value).ptr);
+  endLine(putText(beginLine(longTextSize), value));
 }
 
 void XMLFields::setDouble(double value) {
   if (field->hasStoredForm()) return setBoxed(DoubleObject(value));
-  char* const at = beginLine(doubleTextSize);
-  doubleToString(value, at);
-  endLine(at + std::strlen(at));
+  endLine(putText(beginLine(doubleTextSize), value));
 }
 
 void XMLFields::setString(const zkstring& value) {

@@ -1,9 +1,8 @@
 #include "fix/FIXOutputWriter.h"
 
-#include <charconv>
 #include <cstring>
-#include <iterator>
 
+#include "../TextForms.h"
 #include "Exceptions.h"
 #include "ThrowFrom.h"
 
@@ -17,7 +16,7 @@ zkstring FIXOutputWriter::endMessage() {
   const std::size_t head = firstFieldSize();
   char field[20];  // all that is behind the head is the body
   std::memcpy(field, "9=", 2);
-  char* end = std::to_chars(field + 2, std::end(field) - 1, static_cast<unsigned int>(message().size() - head)).ptr;
+  char* end = putText(field + 2, static_cast<int>(message().size() - head));
   *end++ = delimiter;
   return finish(head, {field, end});
 }
