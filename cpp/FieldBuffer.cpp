@@ -22,17 +22,19 @@ void FieldBuffer::append(std::string_view bytes) {
   setNext(std::copy(bytes.begin(), bytes.end(), behind));
 }
 
-void FieldBuffer::reserve(std::size_t added) {
-  const std::size_t used = size();
+/// Makes room for `added` bytes behind `end` and gives the end's new place; the bytes so far stay as they are if it
+/// fails.
+char* FieldBuffer::grow(char* end, std::size_t added) {
+  const auto used = static_cast<std::size_t>(end - block.get());
   const auto capacity = static_cast<std::size_t>(full - block.get());
-  if (block != nullptr && used + added <= capacity) return;
-  if (added > largest - used) throw std::bad_array_new_length();
+  if (block != nullptr && used + added <= capacity) return end;
+  if (used > largest || added > largest - used) throw std::bad_array_new_length();
   const std::size_t larger = std::max(used + added, 2 * capacity);
   std::unique_ptr<char[]> bytes(new char[larger + spare]);
-  std::copy(block.get(), behind, bytes.get());
+  std::copy(block.get(), end, bytes.get());
   block = std::move(bytes);
-  behind = block.get() + used;
   full = block.get() + larger;
+  return block.get() + used;
 }
 
 }  // namespace zarvik

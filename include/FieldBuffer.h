@@ -22,20 +22,23 @@ class FieldBuffer {
   FieldBuffer& operator=(const FieldBuffer& other);
 
   char* next() const { return behind; }  ///< where the next byte goes
-  void setNext(char* to) {               ///< the bytes up to here are written
-    behind = to;
+  void setNext(char* to) {               ///< the bytes up to here are written; without room for more, none of them is
     if (to > full) [[unlikely]]
-      reserve(0);
+      to = grow(to, 0);
+    behind = to;
   }
 
   void append(std::string_view bytes);
   void clear() { behind = block.get(); }
-  void reserve(std::size_t size);  ///< room for so many bytes, and the spare; std::bad_array_new_length beyond 1 GB
+  /// Room for so many bytes more, and the spare; std::bad_array_new_length beyond 1 GB.
+  void reserve(std::size_t size) { behind = grow(behind, size); }
 
   std::size_t size() const { return static_cast<std::size_t>(behind - block.get()); }
   std::string_view view() const { return {block.get(), size()}; }  ///< until the next change
 
  private:
+  char* grow(char* end, std::size_t added);
+
   std::unique_ptr<char[]> block;
   char* behind = nullptr;
   char* full = nullptr;  ///< the spare bytes begin here
