@@ -26,6 +26,9 @@ const std::string order42 =
 const std::string order44 =
     "8=FIX.4.4|9=0|35=D|49=A|56=B|34=7|52=20260310-14:32:36.135|11=X1|55=SAP.DE|54=1|60=20260310-14:32:36|38=100|40=2|"
     "44=247.3|453=1|448=P|447=D|452=1|9000=ours|10=000|";
+const std::string report42 =
+    "8=FIX.4.2|9=0|35=8|49=B|56=A|34=8|52=20260310-14:32:36|37=V1|11=X1|17=E1|20=0|150=1|39=6|55=SAP.DE|54=1|38=2|"
+    "32=1|31=4.25|151=1|14=1|6=4.25|10=000|";
 const std::string report44 =
     "8=FIX.4.4|9=0|35=8|49=B|56=A|34=8|52=20260310-14:32:36|37=V1|11=X1|17=E1|150=F|39=1|55=SWAP|541=20270310|54=1|"
     "38=2|32=1|31=4.25|151=1|14=1|6=4.25|555=2|600=NEAR|623=1|539=1|524=P|525=D|538=4|600=FAR|623=1|10=000|";
@@ -95,10 +98,10 @@ TEST_F(Road, tellsWhatIsWrong) {
       {order42, "9=0", "9",
        "FIXParsingException: [col 12] 'Name or value' can't be empty. Unable to parse tag=value of form 9"},
       {order42, "35=D|", "35=D|35=D|", "FieldParsingException, Input: Duplicate Tag 'MsgType[35]'."},
-      {order42, "34=7|", "", "FieldNullException, Input: Attempt to access field 'MsgSeqNum' with null value"},
+      {order42, "34=7|", "", "FieldParsingException, Input: Tag 'MsgSeqNum[34]' expected."},
       {order42, "34=7", "34=seven", "FIXParsingException: [col 38] Cannot convert 'seven' to int"},
-      {order42, "52=20260310-14:32:36|", "",
-       "FieldNullException, Input: Attempt to access field 'SendingTime' with null value"},
+      {order42, "49=A|", "", "FieldParsingException, Input: Tag 'SenderCompID[49]' expected."},
+      {order42, "52=20260310-14:32:36|", "", "FieldParsingException, Input: Tag 'SendingTime[52]' expected."},
       {order42, "52=20260310-14:32:36", "52=yesterday",
        "TransformRuntimeException, Input: Error parsing date string, expected pattern 'yyyyMMdd-HH:mm:ss' found "
        "'yesterday"},
@@ -109,16 +112,23 @@ TEST_F(Road, tellsWhatIsWrong) {
       {order42, "54=1", "54=7", "FieldParsingException, Input, Side: Side '7' is not supported"},
       {order42, "54=1", "54=11", "FieldParsingException, Input: Cannot convert 11 to char"},
       {order42, "38=90000", "38=9e4", "TransformException, Input: Cannot convert '9e4' to int"},
+      {order42, "38=90000", "38=-", "FieldParsingException, Input: Cannot convert '-' to int"},
+      {order42, "38=90000", "38=4295057296", "FieldParsingException, Input: Cannot convert '4295057296' to int"},
       {order42, "38=90000", "38=0",
        "TransformException, Internal Message, Validation, Quantity: Validation 'positive' failed. Field 'Quantity' is "
        "not "
        "valid"},
       {order42, "44=247.3", "44=247,3", "TransformException, Input: Cannot convert '247,3' to double"},
       {order42, "44=247.3", "44=1e309", "FieldParsingException, Input, Price: Number '1e309' is too large"},
+      {order42, "44=247.3", "44=247-3", "FieldParsingException, Input, Price: Cannot convert '247-3' to double"},
+      {order42, "40=2", "40=1", "FieldParsingException, Input, Price: A market order has no Price"},
+      {order42, "44=247.3|", "", "FieldParsingException, Input, Price: A limit order has a Price"},
+      {order42, "22=4|", "", "FieldParsingException, Input, SecurityIDSource: SecurityIDSource '' is not supported"},
       {order42, "40=2", "40=3", "FieldParsingException, Input, OrdType: OrdType '3' is not supported"},
       {order42, "59=0", "59=6", "FieldParsingException, Input, TimeInForce: TimeInForce '6' is not supported"},
       {order42, "60=20260310-14", "60=20261310-14", "TransformRuntimeException, Input: Illegal date 2026-13-10"},
       {order42, "1=4711", "1=47X1", "FieldParsingException, Input, Account: Account '47X1' is not a number"},
+      {order42, "1=4711", "1=04711", "FieldParsingException, Input, Account: Account '04711' begins with a zero"},
       {order42, "DE0007164600", "DE0007164601",
        "TransformException, Internal Message, Validation, Instrument.ISIN: Validation 'check digit' failed. Field "
        "'Instrument.ISIN' is not valid"},
@@ -152,6 +162,8 @@ TEST_F(Road, tellsWhatIsWrong) {
       {order42, "95=3|", "", "FIXParsingException, Input: Unexpected tag 96"},
       {order42, "95=3|96=a=b", "95=0|96=", "FieldParsingException, Input, RawData: Field 'RawData' cannot be null."},
       {order42, "95=3", "95=2147483647", "FIXParsingException, Input: Unexpected end of input while looking for data"},
+      {report44, "150=F", "150=H", "FieldParsingException, Input, ExecType: ExecType 'H' is not supported"},
+      {report42, "20=0", "20=1", "FieldParsingException, Input, ExecTransType: ExecTransType '1' is not supported"},
       {report44, "150=F", "150=FF", "FieldParsingException, Input: Cannot convert FF to char"},
       {report44, "37=V1", "20=0|37=V1", "FieldParsingException, Input: Tag 'OrderID[37]' expected."},
       {order42, "10=000|", "", "FieldParsingException, Input: Tag '10' expected."},

@@ -23,7 +23,7 @@ DataObjectMetaInfo* ExecutionReport::metaInfo() {
     Info() : DataObjectMetaInfo(zkstringliteral("ExecutionReport"), names, types, FIELD_COUNT) {
       getSectionMetaInfo(CONTRA_BROKERS)->init(Portion::metaInfo(), 0, -1);
       getSectionMetaInfo(PARTIES)->init(Party::metaInfo(), 0, -1);
-      getSectionMetaInfo(LEGS)->init(Leg::metaInfo(), 0, -1);
+      getSectionMetaInfo(LEGS)->init(Leg::metaInfo(), 0, 10);
     }
   };
   static Info info;

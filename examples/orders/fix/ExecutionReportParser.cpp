@@ -156,6 +156,7 @@ void ExecutionReportParser::checkBody(DataObject& body) {
   assertNotNull(report, ExecutionReport::LEAVES_QTY, 151);
   assertNotNull(report, ExecutionReport::CUM_QTY, 14);
   assertNotNull(report, ExecutionReport::AVG_PX, 6);
+  assertConstraints(report, ExecutionReport::LEGS, 555);  // as many as an order takes
 }
 
 }  // namespace orders

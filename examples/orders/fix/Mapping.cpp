@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <string_view>
 
 #include "Exceptions.h"
 #include "Parsing.h"
@@ -30,9 +31,10 @@ constexpr char marketOrder = '1';
 constexpr char limitOrder = '2';
 constexpr char automated = '1';    // HandlInst: without a dealer
 constexpr char newReport = '0';    // ExecTransType
-constexpr char partialFill = '1';  // ExecType of FIX 4.2, which goes with OrdStatus
+constexpr char partialFill = '1';  // ExecType of FIX 4.2
 constexpr char fill = '2';
-constexpr char trade = 'F';  // ExecType of FIX 4.4 for both
+constexpr char trade = 'F';                               // ExecType of FIX 4.4 for both, and the house's
+constexpr std::string_view otherKinds = "03456789ABCDE";  // ExecType of both versions, and the house's
 constinit const zkstringliteral isinSource = "4";
 
 [[noreturn]] void throwNotSupported(const char* field, char code) {
@@ -47,14 +49,53 @@ char translate(const Code (&codes)[count], char Code::*from, char Code::*to, cha
   return found->*to;
 }
 
+/// An order is written as limit order when it has a price, and as market order otherwise.
+template <class Message>
+void ensureTypeOfPrice(const Message& message) {
+  if (message.isNull(Message::ORD_TYPE)) return;
+  const bool hasPrice = message.isNotNull(Message::PRICE);
+  if (message.getOrdType() == (hasPrice ? limitOrder : marketOrder)) return;
+  if (message.getOrdType() != (hasPrice ? marketOrder : limitOrder)) throwNotSupported("OrdType", message.getOrdType());
+  throwFrom(here,
+            FieldParsingException(hasPrice ? "A market order has no Price" : "A limit order has a Price", "Price"));
+}
+
+/// The house knows instruments by their symbol and ISIN.
+template <class Message>
+void takeIsin(const Message& message, Instrument& instrument) {
+  if (message.isNull(Message::SECURITY_ID)) return;
+  const zkstring source = message.isNull(Message::SECURITY_ID_SOURCE) ? zkstring() : message.getSecurityIDSource();
+  if (source != isinSource) {
+    throwFrom(here, FieldParsingException("SecurityIDSource '" + source + "' is not supported", "SecurityIDSource"));
+  }
+  instrument.setISIN(message.getSecurityID());
+}
+
+char kindOf(Version version, char execType) {
+  if (otherKinds.find(execType) != std::string_view::npos) return execType;
+  const bool traded = version == Version::FIX42 ? execType == partialFill || execType == fill : execType == trade;
+  if (!traded) throwNotSupported("ExecType", execType);
+  return trade;
+}
+
+char execTypeOf(Version version, const Execution& execution) {
+  if (version == Version::FIX44 || execution.getKind() != trade) return execution.getKind();
+  return execution.getOpen() == 0 ? fill : partialFill;
+}
+
 template <class T>
 void copyElements(const Group<T>& source, Group<T>& target) {
   for (int i = 0; i < source.getElementCount(); ++i) target.addElement(new T(source.at(i), &target));
 }
 
 BigInteger accountNumber(const zkstring& text) {
-  if (std::all_of(text.data(), text.data() + text.length(), Parsing::isNumericalDigit)) return text;
-  throwFrom(here, FieldParsingException("Account '" + text + "' is not a number", "Account"));
+  if (!std::all_of(text.data(), text.data() + text.length(), Parsing::isNumericalDigit)) {
+    throwFrom(here, FieldParsingException("Account '" + text + "' is not a number", "Account"));
+  }
+  if (text.length() > 1 && text[0] == '0') {  // another account than the number says
+    throwFrom(here, FieldParsingException("Account '" + text + "' begins with a zero", "Account"));
+  }
+  return text;
 }
 
 /// What an order and a report of it have in common.
@@ -64,6 +105,7 @@ void commonToOrder(const FIXHeader& header, const Message& message, Order& order
   order.setSendingTime(FIXType::parseUTCTimestamp(header.getSendingTime()));
   if (message.isNotNull(Message::CL_ORD_ID)) order.setID(message.getClOrdID());
   if (message.isNotNull(Message::ACCOUNT)) order.setAccount(accountNumber(message.getAccount()));
+  ensureTypeOfPrice(message);
   order.setSide(translate(sides, &Code::fix, &Code::house, message.getSide(), "Side"));
   if (message.isNotNull(Message::ORDER_QTY)) order.setQuantity(message.getOrderQty());
   if (message.isNotNull(Message::PRICE)) order.setPrice(message.getPrice());
@@ -74,15 +116,13 @@ void commonToOrder(const FIXHeader& header, const Message& message, Order& order
   }
   if (message.isNotNull(Message::TRANSACT_TIME)) order.setEntered(message.getTransactTime());
   if (message.isNotNull(Message::TRADE_DATE)) order.setTradeDate(message.getTradeDate());
+  if (message.isNotNull(Message::SETTL_DATE)) order.setSettlement(message.getSettlDate());
   if (message.isNotNull(Message::TEXT)) order.setText(message.getText());
   if (message.isNotNull(Message::RAW_DATA)) order.setSignature(message.getRawData());
   Instrument* const instrument = order.getInstrument();
   instrument->setSymbol(message.getSymbol());
   if (message.isNotNull(Message::MATURITY_DATE)) instrument->setMaturity(message.getMaturityDate());
-  if (message.isNotNull(Message::SECURITY_ID) && message.isNotNull(Message::SECURITY_ID_SOURCE) &&
-      message.getSecurityIDSource() == isinSource) {
-    instrument->setISIN(message.getSecurityID());
-  }
+  takeIsin(message, *instrument);
   copyElements(message.getParties(), order.getParties());
 }
 
@@ -100,6 +140,7 @@ void commonFromOrder(Order& order, Version version, Message& message) {
   }
   if (order.isNotNull(Order::ENTERED)) message.setTransactTime(order.getEntered());
   if (order.isNotNull(Order::TRADE_DATE)) message.setTradeDate(order.getTradeDate());
+  if (order.isNotNull(Order::SETTLEMENT)) message.setSettlDate(order.getSettlement());
   if (order.isNotNull(Order::TEXT)) message.setText(order.getText());
   if (order.isNotNull(Order::SIGNATURE)) message.setRawData(order.getSignature());
   const Instrument& instrument = *order.getInstrument();
@@ -116,20 +157,19 @@ void commonFromOrder(Order& order, Version version, Message& message) {
 
 void toOrder(const FIXHeader& header, Version /*version*/, const NewOrderSingle& message, Order& order) {
   commonToOrder(header, message, order);
-  if (message.getOrdType() != marketOrder && message.getOrdType() != limitOrder) {
-    throwNotSupported("OrdType", message.getOrdType());
-  }
   copyElements(message.getAllocs(), order.getPortions());
 }
 
 void toOrder(const FIXHeader& header, Version version, const ExecutionReport& message, Order& order) {
   commonToOrder(header, message, order);
+  if (version == Version::FIX42 && message.getExecTransType() != newReport) {  // a correction would pass for a trade
+    throwNotSupported("ExecTransType", message.getExecTransType());
+  }
   Execution& execution = order.getExecutions().add();
   execution.setOrderID(message.getOrderID());
   execution.setExecutionID(message.getExecID());
   execution.setStatus(message.getOrdStatus());
-  const bool traded = message.getExecType() == partialFill || message.getExecType() == fill;
-  execution.setKind(version == Version::FIX42 && traded ? trade : message.getExecType());
+  execution.setKind(kindOf(version, message.getExecType()));
   if (message.isNotNull(ExecutionReport::LAST_QTY)) execution.setLastQuantity(message.getLastQty());
   if (message.isNotNull(ExecutionReport::LAST_PX)) execution.setLastPrice(message.getLastPx());
   execution.setOpen(message.getLeavesQty());
@@ -143,8 +183,10 @@ void fromOrder(const Order& order, Version version, const char* messageType, Tra
                FIXHeader& header) {
   header.setBeginString(beginString(version));
   header.setMsgType(zkstring::static_string(messageType));
-  header.setSenderCompID(context.getProperty(SENDER_PROPERTY));
-  header.setTargetCompID(context.getProperty(TARGET_PROPERTY));
+  const zkstring sender = context.getProperty(SENDER_PROPERTY);
+  const zkstring target = context.getProperty(TARGET_PROPERTY);
+  if (!sender.empty()) header.setSenderCompID(sender);  // the writer misses what is not there
+  if (!target.empty()) header.setTargetCompID(target);
   header.setMsgSeqNum(static_cast<int>(order.getSequence()));
   zkstring text;
   header.setSendingTime(FIXType::formatUTCTimestamp(order.getSendingTime(), text));
@@ -162,8 +204,7 @@ void fromOrder(Order& order, Version version, ExecutionReport& message) {
   message.setOrderID(execution.getOrderID());
   message.setExecID(execution.getExecutionID());
   message.setOrdStatus(execution.getStatus());
-  message.setExecType(version == Version::FIX42 && execution.getKind() == trade ? execution.getStatus()
-                                                                                : execution.getKind());
+  message.setExecType(execTypeOf(version, execution));
   if (execution.isNotNull(Execution::LAST_QUANTITY)) message.setLastQty(execution.getLastQuantity());
   if (execution.isNotNull(Execution::LAST_PRICE)) message.setLastPx(execution.getLastPrice());
   message.setLeavesQty(execution.getOpen());

@@ -1,5 +1,6 @@
 #include "orders/fix/MessageParser.h"
 
+#include <charconv>
 #include <cmath>
 #include <memory>
 
@@ -15,6 +16,15 @@ namespace {
 
 constexpr char here[] = "examples/orders/fix/MessageParser";
 constexpr char SOH = 1;
+
+/// Whether all of `text` is one number that fits: the engine's readers take a lone sign for 0, read on behind signs
+/// amid the digits, and wrap around.
+template <class T, class... Format>
+bool readWhole(const zkstring& text, T& number, Format... format) {
+  const char* const end = text.data() + text.length();
+  const auto [behind, error] = std::from_chars(text.data(), end, number, format...);
+  return error == std::errc() && behind == end;
+}
 }  // namespace
 
 ExternalObject* newMessage(DataObject* body) {
@@ -29,6 +39,7 @@ void MessageParser::parse(ExternalObject* message, const Binary& bytes, Transfor
   stamped([&](TransformException& error) { error.setColumn(tokenizer.getNextTokenIndex()); },
           [&] {
             parseHeader(static_cast<FIXHeader&>(*message->getHeader()), tokenizer);
+            checkHeader(static_cast<FIXHeader&>(*message->getHeader()));
             parseBody(*message->getData(), tokenizer);
             checkBody(*message->getData());
             parseTrailer(static_cast<FIXTrailer&>(*message->getTrailer()), tokenizer);
@@ -89,6 +100,16 @@ void MessageParser::parseHeader(FIXHeader& header, FIXTokenizer& tokenizer) {
   }
 }
 
+void MessageParser::checkHeader(FIXHeader& header) {
+  assertNotNull(&header, FIXHeader::BEGIN_STRING, 8);
+  assertNotNull(&header, FIXHeader::BODY_LENGTH, 9);
+  assertNotNull(&header, FIXHeader::MSG_TYPE, 35);
+  assertNotNull(&header, FIXHeader::SENDER_COMP_ID, 49);
+  assertNotNull(&header, FIXHeader::TARGET_COMP_ID, 56);
+  assertNotNull(&header, FIXHeader::MSG_SEQ_NUM, 34);
+  assertNotNull(&header, FIXHeader::SENDING_TIME, 52);
+}
+
 void MessageParser::parseTrailer(FIXTrailer& trailer, FIXTokenizer& tokenizer) {
   Field field;
   if (!tokenizer.next(field)) missingTag(10);
@@ -103,14 +124,24 @@ char MessageParser::character(Record& record, int index, const Field& field) {
 }
 
 int MessageParser::integer(Record& record, int index, const Field& field) {
-  return Parsing::parseInt(text(record, index, field));
+  return wholeNumber(text(record, index, field));
+}
+
+int MessageParser::wholeNumber(const zkstring& value) {
+  int number = 0;
+  if (readWhole(value, number)) return number;
+  Parsing::parseInt(value);  // has words of its own for most
+  throwFrom(here, FieldParsingException("Cannot convert '" + value + "' to int"));
 }
 
 double MessageParser::number(Record& record, int index, const Field& field) {
   const zkstring& value = text(record, index, field);
-  const double parsed = Parsing::parseDouble(value);
-  if (std::isfinite(parsed)) return parsed;
-  throwFrom(here, FieldParsingException("Number '" + value + "' is too large", record.getFieldName(index)));
+  double number = 0;
+  if (readWhole(value, number, std::chars_format::fixed) && std::isfinite(number)) return number;
+  if (std::isinf(Parsing::parseDouble(value))) {
+    throwFrom(here, FieldParsingException("Number '" + value + "' is too large", record.getFieldName(index)));
+  }
+  throwFrom(here, FieldParsingException("Cannot convert '" + value + "' to double", record.getFieldName(index)));
 }
 
 DateTime MessageParser::timestamp(Record& record, int index, const Field& field) {
@@ -122,7 +153,7 @@ DateTime MessageParser::date(Record& record, int index, const Field& field) {
 }
 
 Binary MessageParser::data(Record& record, int index, Field& field, int dataTag, FIXTokenizer& tokenizer) {
-  const int length = field.toInt();
+  const int length = wholeNumber(field.getValue());
   if (!tokenizer.nextDataTag(field, length) || field.getTag() != dataTag) missingTag(dataTag);
   return text(record, index, field);
 }

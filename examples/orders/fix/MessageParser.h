@@ -50,6 +50,7 @@ class MessageParser : public zarvik::FIXInputParser {
   }
   char character(Record& record, int index, const Field& field);
   int integer(Record& record, int index, const Field& field);
+  static int wholeNumber(const zarvik::zkstring& value);  ///< throws for what is not one, or does not fit
   double number(Record& record, int index, const Field& field);
   zarvik::DateTime timestamp(Record& record, int index, const Field& field);
   zarvik::DateTime date(Record& record, int index, const Field& field);
@@ -72,6 +73,7 @@ class MessageParser : public zarvik::FIXInputParser {
   void takeGroup(Group<Element>& group, Field& field, int first, Tokenizer& tokenizer,
                  TakeElementField takeElementField) {
     const Field count = field;
+    const int expected = wholeNumber(count.getValue());
     assertSectionEmpty(&group, count.getTag());
     Element* element = nullptr;
     while (tokenizer.next(field)) {
@@ -81,11 +83,12 @@ class MessageParser : public zarvik::FIXInputParser {
         break;
       }
     }
-    if (group.getElementCount() != count.toInt()) throwWrongCount(count, group.getElementCount());
+    if (group.getElementCount() != expected) throwWrongCount(count, group.getElementCount());
   }
 
  private:
   void parseHeader(zarvik::FIXHeader& header, Tokenizer& tokenizer);
+  void checkHeader(zarvik::FIXHeader& header);
   void parseTrailer(FIXTrailer& trailer, Tokenizer& tokenizer);
   [[noreturn]] static void throwWrongCount(const Field& count, int found);
 

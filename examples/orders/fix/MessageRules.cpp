@@ -12,6 +12,10 @@
 using namespace zarvik;
 
 namespace orders {
+namespace {
+
+int quantityOf(const Portion& portion) { return portion.isNotNull(Portion::QUANTITY) ? portion.getQuantity() : 0; }
+}  // namespace
 
 void MessageRules::validateHeader0(DataObject* part) {
   auto* const header = &as<FIXHeader>(part);
@@ -34,11 +38,11 @@ void NewOrderSingleRules::validateData0(DataObject* /*header*/, DataObject* data
   check(order->getOrderQty() > 0, "positive", order, NewOrderSingle::ORDER_QTY);
   check((order->getOrdType() == '2') == order->isNotNull(NewOrderSingle::PRICE), "limit orders have a price", order,
         NewOrderSingle::PRICE);
-  __int64 allocated = 0;
+  __int64 left = order->getOrderQty();
   const Group<Portion>& allocations = order->getAllocs();
-  for (int i = 0; i < allocations.getElementCount(); ++i) allocated += allocations.at(i).getQuantity();
-  check(allocated == 0 || allocated == order->getOrderQty(), "allocations make up the order", order,
-        NewOrderSingle::ALLOCS);
+  const int count = allocations.getElementCount();
+  for (int i = 0; i < count; ++i) left -= quantityOf(allocations.at(i));
+  check(count == 0 || left == 0, "allocations make up the order", order, NewOrderSingle::ALLOCS);
 }
 
 void ExecutionReportRules::validateData0(DataObject* /*header*/, DataObject* data) {
