@@ -22,6 +22,8 @@ void FieldBuffer::append(std::string_view bytes) {
   setNext(std::copy(bytes.begin(), bytes.end(), behind));
 }
 
+void FieldBuffer::growTo(char* end) { behind = grow(end, 0); }
+
 /// Makes room for `added` bytes behind `end` and gives the end's new place; the bytes so far stay as they are if it
 /// fails.
 char* FieldBuffer::grow(char* end, std::size_t added) {

@@ -24,7 +24,7 @@ class FieldBuffer {
   char* next() const { return behind; }  ///< where the next byte goes
   void setNext(char* to) {               ///< the bytes up to here are written; without room for more, none of them is
     if (to > full) [[unlikely]]
-      to = grow(to, 0);
+      return growTo(to);  // with nothing left to do here, so that the usual field need save no register
     behind = to;
   }
 
@@ -37,6 +37,7 @@ class FieldBuffer {
   std::string_view view() const { return {block.get(), size()}; }  ///< until the next change
 
  private:
+  void growTo(char* end);
   char* grow(char* end, std::size_t added);
 
   std::unique_ptr<char[]> block;

@@ -6,7 +6,7 @@ namespace orders {
 
 /// A repeating group whose elements are all of class `T`.
 template <class T>
-class Group : public zarvik::DataObjectSectionImpl {
+class Group final : public zarvik::DataObjectSectionImpl {
  public:
   using DataObjectSectionImpl::DataObjectSectionImpl;
 

@@ -211,7 +211,14 @@ TEST_F(Road, survivesEveryAllocationThatFails) {
     return Attempt{Outcome::PASSED, allocation.happened()};
   };
   const std::string refused = order42 + "10=001|";
-  for (const std::string& message : {order42, order44, report44, refused}) {
+  const std::vector<std::string> messages = {order42, order44, report44, refused};
+  for (const std::string& message : messages) {  // what a process keeps from its first message on
+    StringInputSource source(messageOf(message));
+    MessageRouter first;
+    addRows(first);
+    attempt(first, source, 0);
+  }
+  for (const std::string& message : messages) {
     StringInputSource source(messageOf(message));
     const Outcome usual = message == refused ? Outcome::REFUSED : Outcome::PASSED;
     for (const bool isNew : {true, false}) {

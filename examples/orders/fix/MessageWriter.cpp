@@ -1,6 +1,5 @@
 #include "orders/fix/MessageWriter.h"
 
-#include "fix/FIXType.h"
 #include "orders/As.h"
 
 using namespace zarvik;
@@ -31,14 +30,6 @@ void MessageWriter::writeTrailer(DataObject* /*trailer*/, TransformContext& /*co
   // The engine adds body length and checksum, and there is nothing else.
 }
 
-void MessageWriter::appendTimestamp(const char* tag, const DateTime& value) {
-  appendField(tag, FIXType::formatUTCTimestamp(value, scratch));
-}
-
-void MessageWriter::appendDate(const char* tag, const DateTime& value) {
-  appendField(tag, FIXType::formatLocalMktDate(value, scratch));
-}
-
 void MessageWriter::appendData(const char* lengthTag, const char* dataTag, const Binary& value) {
   if (value.empty()) return;
   appendField(lengthTag, static_cast<int>(value.length()));
@@ -48,7 +39,8 @@ void MessageWriter::appendData(const char* lengthTag, const char* dataTag, const
 void MessageWriter::appendPortions(const char* countTag, const Group<Portion>& group, const char* idTag,
                                    const char* quantityTag) {
   const int count = group.getElementCount();
-  if (count != 0) appendField(countTag, count);
+  if (count == 0) return;
+  appendField(countTag, count);
   for (int i = 0; i < count; ++i) {
     const Portion& portion = group.at(i);
     appendField(idTag, portion.getID());
@@ -59,7 +51,8 @@ void MessageWriter::appendPortions(const char* countTag, const Group<Portion>& g
 void MessageWriter::appendParties(const char* countTag, const Group<Party>& group, const char* idTag,
                                   const char* sourceTag, const char* roleTag) {
   const int count = group.getElementCount();
-  if (count != 0) appendField(countTag, count);
+  if (count == 0) return;
+  appendField(countTag, count);
   for (int i = 0; i < count; ++i) {
     const Party& party = group.at(i);
     appendField(idTag, party.getID());

@@ -3,6 +3,7 @@
 #include "date/DateTime.h"
 #include "fix/FIXHeader.h"
 #include "fix/FIXOutputWriter.h"
+#include "fix/FIXType.h"
 #include "orders/Group.h"
 #include "orders/Party.h"
 #include "orders/Portion.h"
@@ -28,8 +29,13 @@ class MessageWriter : public zarvik::FIXOutputWriter {
   void require(Record& record, int index, int tag) {
     if (record.isNullValue(index)) requiredFieldMissing(&record, index, tag);
   }
-  void appendTimestamp(const char* tag, const zarvik::DateTime& value);
-  void appendDate(const char* tag, const zarvik::DateTime& value);
+  // In place, so that the compiler makes a word of the tag.
+  void appendTimestamp(const char* tag, const zarvik::DateTime& value) {
+    appendField(tag, zarvik::FIXType::formatUTCTimestamp(value, scratch));
+  }
+  void appendDate(const char* tag, const zarvik::DateTime& value) {
+    appendField(tag, zarvik::FIXType::formatLocalMktDate(value, scratch));
+  }
   void appendData(const char* lengthTag, const char* dataTag, const zarvik::Binary& value);
 
   // Groups, by the tags of their number and of the fields of an element. An empty group is not written.
