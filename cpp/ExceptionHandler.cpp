@@ -34,7 +34,7 @@ void DraconianExceptionHandler::onException(ExceptionDataObject* exception) {
 void CascadingExceptionHandler::onException(ExceptionDataObject* exception) {
   std::unique_ptr<ExceptionDataObject> entry(guardedCast<ExceptionDataObject>(exception->clone()));
   exceptions.push_back(entry.get());
-  entry.release();
+  static_cast<void>(entry.release());  // the list has it
 }
 
 }  // namespace zarvik

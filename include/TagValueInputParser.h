@@ -34,7 +34,7 @@ class TagValueInputParser : public InputParser {
     if (value.empty()) [[unlikely]]
       throwNull(object, fieldIndex);
   }
-  void ensureNotNull(const zkstring& value, zkstring fieldName) const {
+  void ensureNotNull(const zkstring& value, const zkstring& fieldName) const {
     if (value.empty()) [[unlikely]]
       throwNull(fieldName);
   }
