@@ -1,7 +1,5 @@
 #include "fix/FIXOutputWriter.h"
 
-#include <cstring>
-
 #include "../TextForms.h"
 #include "Exceptions.h"
 #include "ThrowFrom.h"
@@ -15,7 +13,8 @@ constexpr char here[] = "cpp/fix/FIXOutputWriter";
 zkstring FIXOutputWriter::endMessage() {
   const std::size_t head = firstFieldSize();
   char field[20];  // all that is behind the head is the body
-  std::memcpy(field, "9=", 2);
+  field[0] = '9';
+  field[1] = '=';
   char* end = putText(field + 2, static_cast<int>(message().size() - head));
   *end++ = delimiter;
   return finish(head, {field, end});
