@@ -183,10 +183,7 @@ TEST(DataObjectIO, refusesWhatDoesNotFit) {
   const auto errorOfBytes = [&](const Binary& bytes) {
     return errorOf<TransformException>([&] { parse(record.get(), bytes); });
   };
-  for (const char* bytes : {"", "01FFFFFFFF0F41", "03FFFFFF7F00",
-                            "038280808000"
-                            "0000",
-                            "0300"}) {
+  for (const char* bytes : {"", "01FFFFFFFF0F41", "03FFFFFF7F00", "0382808080000000", "0300"}) {
     EXPECT_EQ(errorOfBytes(Binary::fromHexString(bytes)), "Out of bounds") << bytes;
   }
   EXPECT_EQ(errorOfBytes(Binary::fromHexString("01014100"
