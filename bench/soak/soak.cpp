@@ -1,6 +1,5 @@
 // A long run on the example's road: soak [MESSAGES], 5 million by default. Tells the resident memory after the first
-// ten thousand and along the way; it fails if that
-// grows.
+// ten thousand and along the way; it fails if that grows.
 #include <unistd.h>
 
 #include <algorithm>
