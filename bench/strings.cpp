@@ -26,19 +26,46 @@ template <class Text>
   return text;
 }
 
+/// As an operation takes a constant, by value.
+template <class Text>
+[[gnu::noinline]] std::size_t taken(Text text) {
+  return opaque(text).size();
+}
+
+/// The least that a pointer, a length and a counted block can cost: three words moved, and a look at the block when
+/// the value comes and when it goes.
+struct ThreeWords {
+  constexpr ThreeWords(const char* text, unsigned int length) : pointer(text), count(length) {}
+  ThreeWords(const ThreeWords& other) : pointer(other.pointer), count(other.count), block(other.block) {
+    if (block != nullptr) ++*block;
+  }
+  ~ThreeWords() {
+    if (block != nullptr) --*block;
+  }
+  ThreeWords& operator=(const ThreeWords&) = delete;
+
+  const char* pointer;
+  unsigned int count;
+  int* block = nullptr;
+};
+
 void copies() {
   static std::string standard(100, 'x');
   static zkstring text(100, 'x');
   static zkstringliteral literal("a constant of the interface");
   static std::string_view view("a constant of the interface");
+  static ThreeWords words("a constant of the interface", 27);
   measure("copy of 100 bytes", ours, [] { return zkstring(opaque(text)); });
   measure("copy of 100 bytes", "std::string", [] { return std::string(opaque(standard)); });
   measure("slice of 60 in 100 bytes", ours, [] { return opaque(text).substr(20, 60); });
   measure("slice of 60 in 100 bytes", "std::string", [] { return opaque(standard).substr(20, 60); });
   measure("copy of a literal", ours, [] { return zkstring(opaque(literal)); });
   measure("copy of a literal", "std::string_view", [] { return std::string_view(opaque(view)); });
+  measure("copy of a literal", "three words", [] { return ThreeWords(opaque(words)); });
   measure("literal from a getter", ours, [] { return given<zkstring>(opaque(literal)); });
   measure("literal from a getter", "std::string_view", [] { return given(opaque(view)); });
+  measure("literal as an argument", ours, [] { return taken<zkstring>(opaque(literal)); });
+  measure("literal as an argument", "std::string_view", [] { return taken(opaque(view)); });
 }
 
 /// 1 KB in which `filler` stands everywhere but at the end, where `pattern` stands.
