@@ -57,24 +57,24 @@ inline unsigned int places(const char* window, const char* wanted) {
   return static_cast<unsigned int>(_mm_movemask_epi8(_mm_cmpeq_epi8(vectorAt(window), vectorAt(wanted))));
 }
 
-/// Sums of eight bytes each, of which the low byte counts: psadbw, with the bytes' distance to 0.
+/// Sixteen sums side by side, each modulo 256 as the whole is; psadbw adds them up in the end.
 inline unsigned char sum(const char* bytes, std::size_t length) {
   if (length < windowSize) return words::sum(bytes, length);
-  const __m128i zero = _mm_setzero_si128();
-  const auto sumOf = [zero](const char* window) { return _mm_sad_epu8(vectorAt(window), zero); };
-  __m128i sums = zero;
-  std::size_t i = 0;
-  for (; i + 4 * windowSize <= length; i += 4 * windowSize) {
-    const __m128i front = _mm_add_epi64(sumOf(bytes + i), sumOf(bytes + i + windowSize));
-    const __m128i back = _mm_add_epi64(sumOf(bytes + i + 2 * windowSize), sumOf(bytes + i + 3 * windowSize));
-    sums = _mm_add_epi64(sums, _mm_add_epi64(front, back));
-  }
-  for (; i + windowSize <= length; i += windowSize) sums = _mm_add_epi64(sums, sumOf(bytes + i));
+  __m128i sums = _mm_setzero_si128();
+  const char* window = bytes;
+  const auto add = [&](std::size_t windows) {
+    for (std::size_t i = 0; i < windows; ++i) sums = _mm_add_epi8(sums, vectorAt(window + i * windowSize));
+    window += windows * windowSize;
+  };
+  for (std::size_t rounds = length / (8 * windowSize); rounds != 0; --rounds) add(8);
+  if ((length & 4 * windowSize) != 0) add(4);
+  if ((length & 2 * windowSize) != 0) add(2);
+  if ((length & windowSize) != 0) add(1);
   // The bytes that are left, at the end of a last window; those before them are taken for 0.
   const __m128i place = _mm_set_epi8(15, 14, 13, 12, 11, 10, 9, 8, 7, 6, 5, 4, 3, 2, 1, 0);
-  const __m128i isBefore = _mm_cmpgt_epi8(_mm_set1_epi8(static_cast<char>(windowSize - (length - i))), place);
-  const __m128i last = _mm_andnot_si128(isBefore, vectorAt(bytes + length - windowSize));
-  sums = _mm_add_epi64(sums, _mm_sad_epu8(last, zero));
+  const __m128i isBefore = _mm_cmpgt_epi8(_mm_set1_epi8(static_cast<char>(windowSize - length % windowSize)), place);
+  sums = _mm_add_epi8(sums, _mm_andnot_si128(isBefore, vectorAt(bytes + length - windowSize)));
+  sums = _mm_sad_epu8(sums, _mm_setzero_si128());
   return static_cast<unsigned char>(_mm_cvtsi128_si32(_mm_add_epi64(sums, _mm_unpackhi_epi64(sums, sums))));
 }
 }  // namespace vectors

@@ -65,10 +65,12 @@ bool TagValueTokenizer::next(TagValuePair& pair) {
 
   unsigned int end = currentIndex;
   unsigned int places = scan::places(begin, delimiters);
-  while (places == 0) {
-    end += windowSize;
-    if (end >= quickEnd) return nextByTheBook(pair);
-    places = scan::places(text.data() + end, delimiters);
+  if (places == 0) [[unlikely]] {
+    do {
+      end += windowSize;
+      if (end >= quickEnd) return nextByTheBook(pair);
+      places = scan::places(text.data() + end, delimiters);
+    } while (places == 0);
   }
   end += static_cast<unsigned int>(std::countr_zero(places));
   const unsigned int start = currentIndex + digits + 1;
