@@ -12,7 +12,6 @@
 #include "fix/FIXHeader.h"
 #include "fix/FIXOutputWriter.h"
 #include "fix/FIXTokenizer.h"
-#include "fix/FIXType.h"
 #include "support/QuickFixOrders.h"
 #include "support/Subject.h"
 
@@ -137,7 +136,7 @@ class OrderWriter : public FIXOutputWriter {
     appendField("35", "D");
     appendField("34", order.sequence);
     appendField("49", "BUYSIDE01");
-    appendField("52", FIXType::formatUTCTimestamp(order.sent, date));
+    appendUTCTimestamp("52", order.sent);
     appendField("56", "BROKER0123");
     appendField("50", "TRADER7");
     appendField("57", "DESK12");
@@ -148,7 +147,7 @@ class OrderWriter : public FIXOutputWriter {
     appendField("48", order.security);
     appendField("22", "4");
     appendField("54", order.side);
-    appendField("60", FIXType::formatUTCTimestamp(order.made, date));
+    appendUTCTimestamp("60", order.made);
     appendField("38", order.quantity);
     appendField("40", '2');
     appendField("44", order.price);
@@ -159,9 +158,6 @@ class OrderWriter : public FIXOutputWriter {
     appendField("207", "XNAS");
     return endMessage();
   }
-
- private:
-  zkstring date;
 };
 
 /// The order with all its texts ready: copies into a block, the body length into its place, the sum by words.

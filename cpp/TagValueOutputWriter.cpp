@@ -1,10 +1,12 @@
 #include "TagValueOutputWriter.h"
 
+#include <algorithm>
 #include <bit>
 
 #include "AbstractDataObject.h"
 #include "ByteScan.h"
 #include "TagNames.h"
+#include "TagValueTimes.h"
 #include "TextForms.h"
 
 namespace zarvik {
@@ -45,16 +47,17 @@ inline char* put(char* out, std::string_view text) {
   return out + n;
 }
 
-char* copy(char* out, std::string_view text) {
-  if (text.size() - 1 < longestPut) return put(out, text);
-  if (text.empty()) return out;
-  std::memcpy(out, text.data(), text.size());
-  return out + text.size();
+/// Copies a text that is short as a rule, and gives the end.
+inline char* copy(char* out, std::string_view text) {
+  if (text.size() - 1 < longestPut) [[likely]]
+    return put(out, text);
+  return std::copy(text.begin(), text.end(), out);
 }
 }  // namespace
 
 // Of all but the long texts each fits into the spare room of the buffer.
-static_assert(FieldBuffer::spare > tagRoom + doubleTextSize && FieldBuffer::spare > tagRoom + longestPut);
+static_assert(FieldBuffer::spare > tagRoom + doubleTextSize && FieldBuffer::spare > tagRoom + widestTime &&
+              FieldBuffer::spare > tagRoom + longestPut);
 
 void TagValueOutputWriter::appendField0(FieldTag tag, std::string_view value) {
   if (value.size() > longestPut) [[unlikely]]
@@ -87,6 +90,18 @@ void TagValueOutputWriter::appendDouble(FieldTag tag, double value) {
   endField(putText(tag.put(messageBuffer.next()), value));
 }
 
+void TagValueOutputWriter::appendTimestamp(FieldTag tag, const DateTime& value) {
+  endField(putUTCTimestamp(tag.put(messageBuffer.next()), value));
+}
+
+void TagValueOutputWriter::appendTimeOnly(FieldTag tag, const DateTime& value) {
+  endField(putUTCTimeOnly(tag.put(messageBuffer.next()), value));
+}
+
+void TagValueOutputWriter::appendDate(FieldTag tag, const DateTime& value) {
+  endField(putUTCDate(tag.put(messageBuffer.next()), value));
+}
+
 std::size_t TagValueOutputWriter::firstFieldSize() const {
   const std::string_view written = messageBuffer.view();
   if (written.size() >= windowSize) {  // one look finds the end of a short field
@@ -101,8 +116,8 @@ zkstring TagValueOutputWriter::finish(std::size_t head, std::string_view inserte
   const std::size_t size = written.size() + inserted.size() + (checksumEnabled ? checkSumSize : 0);
   zkstring text;
   char* const out = text.getBuffer(static_cast<int>(size));
-  char* const inner = copy(copy(out, {written.data(), head}), inserted);
-  char* const end = copy(inner, {written.data() + head, written.size() - head});
+  char* const inner = copy(copy(out, written.substr(0, head)), inserted);
+  char* const end = std::copy(written.begin() + static_cast<std::ptrdiff_t>(head), written.end(), inner);
   if (checksumEnabled) writeCheckSum(end, out);
   text.setBufferLength(static_cast<int>(size));
   return text;

@@ -3,6 +3,9 @@
 #include <array>
 #include <cstring>
 
+#include "TagValueTimes.h"
+#include "date/DateStr.h"
+
 namespace zarvik {
 namespace {
 
@@ -17,8 +20,9 @@ struct PatternPair {
 
 constinit const PatternPair timestamp{"yyyyMMdd-HH:mm:ss.SSS", "yyyyMMdd-HH:mm:ss"};
 constinit const PatternPair timeOnly{"HH:mm:ss.SSS", "HH:mm:ss"};
-constexpr int widestTime = sizeof "yyyyMMdd-HH:mm:ss.SSS" - 1;
-constinit const zkstringliteral date("yyyyMMdd");
+constinit const PatternPair date{"yyyyMMdd", "yyyyMMdd"};
+constexpr unsigned int longestPattern = sizeof "yyyyMMdd-HH:mm:ss.SSS" - 1;
+static_assert(longestPattern * DateStr::WIDEST_CHARACTER <= widestTime);
 constinit const zkstringliteral monthYear("yyyyMM");
 
 /// The texts "00" to "99", one behind the other.
@@ -28,13 +32,13 @@ constexpr auto pairs = [] {
   return texts;
 }();
 
-char* putPair(char* out, std::size_t n) {
-  std::memcpy(out, &pairs[2 * n], 2);
+char* putPair(char* out, unsigned int n) {
+  std::memcpy(out, &pairs[std::size_t{2} * n], 2);
   return out + 2;
 }
 
 /// A field's value; a negative one, which only an unchecked date has, becomes larger than any other.
-std::size_t field(int value) { return static_cast<unsigned int>(value); }
+unsigned int field(int value) { return static_cast<unsigned int>(value); }
 
 /// Whether the fields have the widths of the patterns, as those of every valid time of the years 0 to 9999 have.
 bool isOrdinary(const DateTime& value) {
@@ -43,7 +47,7 @@ bool isOrdinary(const DateTime& value) {
 }
 
 char* putDate(char* out, const DateTime& value) {
-  const std::size_t year = field(value.getYear());
+  const unsigned int year = field(value.getYear());
   out = putPair(putPair(out, year / 100), year % 100);
   return putPair(putPair(out, field(value.getMonth())), field(value.getDate()));
 }
@@ -54,11 +58,34 @@ char* putTime(char* out, const DateTime& value) {
   out = putPair(out, field(value.getMinutes()));
   *out++ = ':';
   out = putPair(out, field(value.getSeconds()));
-  const std::size_t milliseconds = field(value.getMilliSeconds());
+  const unsigned int milliseconds = field(value.getMilliSeconds());
   if (milliseconds == 0) return out;
   *out++ = '.';
   *out++ = static_cast<char>('0' + milliseconds / 100);
   return putPair(out, milliseconds % 100);
+}
+
+char* putTimestamp(char* out, const DateTime& value) {
+  char* const time = putDate(out, value);
+  *time = '-';
+  return putTime(time + 1, value);
+}
+
+/// By the pattern, or as `Put` writes ordinary fields.
+template <char* (*Put)(char*, const DateTime&)>
+inline char* put(char* out, const DateTime& value, const PatternPair& patterns) {
+  if (isOrdinary(value)) [[likely]]
+    return Put(out, value);
+  const zkstring& pattern = patterns.of(value);
+  return DateStr::print(out, value, {pattern.data(), pattern.length()});
+}
+
+/// Without a block that is larger than an ordinary text needs.
+template <char* (*Put)(char*, const DateTime&)>
+inline zkstring& format(const DateTime& value, zkstring& out) {
+  char* const text = out.getBuffer(isOrdinary(value) ? longestPattern : widestTime);
+  out.setBufferLength(static_cast<int>(Put(text, value) - text));
+  return out;
 }
 
 zkstring& format(const DateTime& value, const zkstring& pattern, zkstring& out) {
@@ -67,28 +94,24 @@ zkstring& format(const DateTime& value, const zkstring& pattern, zkstring& out) 
 }
 }  // namespace
 
+char* putUTCTimestamp(char* out, const DateTime& value) { return put<putTimestamp>(out, value, timestamp); }
+char* putUTCTimeOnly(char* out, const DateTime& value) { return put<putTime>(out, value, timeOnly); }
+char* putUTCDate(char* out, const DateTime& value) { return put<putDate>(out, value, date); }
+
 DateTime TagValueType::parseUTCTimestamp(const zkstring& text) { return Parsing::parseDate(text, timestamp.of(text)); }
 
 zkstring& TagValueType::formatUTCTimestamp(const DateTime& value, zkstring& out) {
-  if (!isOrdinary(value)) return format(value, timestamp.of(value), out);
-  char* const text = out.getBuffer(widestTime);
-  char* const time = putDate(text, value);
-  *time = '-';
-  out.setBufferLength(static_cast<int>(putTime(time + 1, value) - text));
-  return out;
+  return format<putUTCTimestamp>(value, out);
 }
 
 DateTime TagValueType::parseUTCTimeOnly(const zkstring& text) { return Parsing::parseDate(text, timeOnly.of(text)); }
 
 zkstring& TagValueType::formatUTCTimeOnly(const DateTime& value, zkstring& out) {
-  if (!isOrdinary(value)) return format(value, timeOnly.of(value), out);
-  char* const text = out.getBuffer(widestTime);
-  out.setBufferLength(static_cast<int>(putTime(text, value) - text));
-  return out;
+  return format<putUTCTimeOnly>(value, out);
 }
 
-DateTime TagValueType::parseUTCDate(const zkstring& text) { return Parsing::parseDate(text, date); }
-zkstring& TagValueType::formatUTCDate(const DateTime& value, zkstring& out) { return format(value, date, out); }
+DateTime TagValueType::parseUTCDate(const zkstring& text) { return Parsing::parseDate(text, date.plain); }
+zkstring& TagValueType::formatUTCDate(const DateTime& value, zkstring& out) { return format<putUTCDate>(value, out); }
 
 DateTime TagValueType::parseLocalMktTimestamp(const zkstring& text) {
   return Parsing::parseDate(text, timestamp.plain);

@@ -6,6 +6,7 @@
 namespace zarvik {
 
 class AbstractDataObject;
+class DateTime;
 
 /// The base of the writers of tag=value formats: fields in the order in which they are appended. A format adds
 /// `endMessage`, which puts in the fields that depend on the others, with `finish`.
@@ -40,6 +41,11 @@ class TagValueOutputWriter : public AbstractSimpleOutputWriter {
   void appendField(const char* tag, double value) { appendDouble(fieldTag(tag), value); }
   void appendField(const char* tag, bool value) { appendText(tag, value ? "true" : "false"); }
 
+  // A date or a time, in the text form that TagValueType tells of; those of the local market are the same.
+  void appendUTCTimestamp(const char* tag, const DateTime& value) { appendTimestamp(fieldTag(tag), value); }
+  void appendUTCTimeOnly(const char* tag, const DateTime& value) { appendTimeOnly(fieldTag(tag), value); }
+  void appendUTCDate(const char* tag, const DateTime& value) { appendDate(fieldTag(tag), value); }
+
   const FieldBuffer& message() const { return messageBuffer; }
   std::size_t firstFieldSize() const;  ///< in bytes, with its delimiter; 0 while there is none
   void reserve(std::size_t size) { messageBuffer.reserve(size); }  ///< bytes that the buffer has in advance
@@ -63,7 +69,8 @@ class TagValueOutputWriter : public AbstractSimpleOutputWriter {
     return FieldTag(tag, length);
   }
   void appendText(const char* tag, std::string_view value) {
-    if (!value.empty()) appendField0(fieldTag(tag), value);
+    if (!value.empty()) [[likely]]
+      appendField0(fieldTag(tag), value);
   }
   void appendField0(FieldTag tag, std::string_view value);
   void appendLong(FieldTag tag, std::string_view value);
@@ -75,6 +82,9 @@ class TagValueOutputWriter : public AbstractSimpleOutputWriter {
   void appendWhole(FieldTag tag, int value);
   void appendWhole(FieldTag tag, __int64 value);
   void appendDouble(FieldTag tag, double value);
+  void appendTimestamp(FieldTag tag, const DateTime& value);
+  void appendTimeOnly(FieldTag tag, const DateTime& value);
+  void appendDate(FieldTag tag, const DateTime& value);
   void writeCheckSum(char* end, const char* begin) const;
   static unsigned char generateCheckSum(const char* bytes, unsigned int length);
 

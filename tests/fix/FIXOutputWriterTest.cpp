@@ -6,6 +6,7 @@
 #include "Support.h"
 #include "TestRecord.h"
 #include "fix/FIXTokenizer.h"
+#include "fix/FIXType.h"
 
 namespace zarvik {
 namespace {
@@ -15,6 +16,9 @@ struct OpenWriter : FIXOutputWriter {
   void writeData(DataObject* /*data*/, TransformContext& /*context*/) override {}
   void writeTrailer(DataObject* /*trailer*/, TransformContext& /*context*/) override {}
   using FIXOutputWriter::appendField;
+  using FIXOutputWriter::appendUTCDate;
+  using FIXOutputWriter::appendUTCTimeOnly;
+  using FIXOutputWriter::appendUTCTimestamp;
   using FIXOutputWriter::requiredFieldMissing;
 };
 
@@ -50,6 +54,25 @@ TEST(FIXOutputWriter, writesEveryKindOfValue) {
     writer.initMessage();
   }
   EXPECT_EQ(writer.writeBatchStart(), nullptr);
+}
+
+/// Dates straight into the message, ordinary ones and one whose fields are as wide as they can be, against their texts.
+TEST(FIXOutputWriter, writesDatesAsFIXTypeDoes) {
+  const DateTime widest(TimeSpan(__int64{2147483647} * 86400, 2147483647));
+  for (const DateTime& value : {DateTime(2001, 2, 3, 4, 5, 6, 7), DateTime(2001, 2, 3, 4, 5, 6, 0), widest}) {
+    OpenWriter inPlace;
+    OpenWriter byTexts;
+    zkstring text;
+    for (int i = 0; i < 100; ++i) {  // at every distance from the end of the block
+      inPlace.appendUTCTimestamp("60", value);
+      inPlace.appendUTCTimeOnly("273", value);
+      inPlace.appendUTCDate("75", value);
+      byTexts.appendField("60", FIXType::formatUTCTimestamp(value, text));
+      byTexts.appendField("273", FIXType::formatUTCTimeOnly(value, text));
+      byTexts.appendField("75", FIXType::formatUTCDate(value, text));
+    }
+    EXPECT_EQ(inPlace.endMessage(), byTexts.endMessage());
+  }
 }
 
 TEST(FIXOutputWriter, framesMessagesOfEverySize) {

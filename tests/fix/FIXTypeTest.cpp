@@ -51,6 +51,7 @@ TEST(FIXType, writesDatesAsThePatternsDo) {
     zkstring text;
     EXPECT_EQ(FIXType::formatUTCTimestamp(value, text), Parsing::formatDate(value, "yyyyMMdd-" + end));
     EXPECT_EQ(FIXType::formatUTCTimeOnly(value, text), Parsing::formatDate(value, end));
+    EXPECT_EQ(FIXType::formatUTCDate(value, text), Parsing::formatDate(value, "yyyyMMdd"));
   }
 }
 

@@ -27,7 +27,7 @@ void ExecutionReportWriter::writeData(DataObject* data, TransformContext& /*cont
   appendField("55", report.getSymbol());
   if (report.isNotNull(ExecutionReport::SECURITY_ID)) appendField("48", report.getSecurityID());
   if (report.isNotNull(ExecutionReport::SECURITY_ID_SOURCE)) appendField("22", report.getSecurityIDSource());
-  if (is44() && report.isNotNull(ExecutionReport::MATURITY_DATE)) appendDate("541", report.getMaturityDate());
+  if (is44() && report.isNotNull(ExecutionReport::MATURITY_DATE)) appendUTCDate("541", report.getMaturityDate());
   if (report.isNotNull(ExecutionReport::SECURITY_EXCHANGE)) appendField("207", report.getSecurityExchange());
   require(report, ExecutionReport::SIDE, 54);
   appendField("54", report.getSide());
@@ -47,9 +47,9 @@ void ExecutionReportWriter::writeData(DataObject* data, TransformContext& /*cont
   require(report, ExecutionReport::AVG_PX, 6);
   appendField("6", report.getAvgPx());
   if (report.isNotNull(ExecutionReport::COMMISSION)) appendField("12", report.getCommission());
-  if (report.isNotNull(ExecutionReport::TRADE_DATE)) appendDate("75", report.getTradeDate());
-  if (report.isNotNull(ExecutionReport::TRANSACT_TIME)) appendTimestamp("60", report.getTransactTime());
-  if (report.isNotNull(ExecutionReport::SETTL_DATE)) appendDate("64", report.getSettlDate());
+  if (report.isNotNull(ExecutionReport::TRADE_DATE)) appendUTCDate("75", report.getTradeDate());
+  if (report.isNotNull(ExecutionReport::TRANSACT_TIME)) appendUTCTimestamp("60", report.getTransactTime());
+  if (report.isNotNull(ExecutionReport::SETTL_DATE)) appendUTCDate("64", report.getSettlDate());
   if (report.isNotNull(ExecutionReport::TEXT)) appendField("58", report.getText());
   if (report.isNotNull(ExecutionReport::RAW_DATA)) appendData("95", "96", report.getRawData());
   appendPortions("382", report.getContraBrokers(), "375", "437");

@@ -1,9 +1,7 @@
 #pragma once
 
-#include "date/DateTime.h"
 #include "fix/FIXHeader.h"
 #include "fix/FIXOutputWriter.h"
-#include "fix/FIXType.h"
 #include "orders/Group.h"
 #include "orders/Party.h"
 #include "orders/Portion.h"
@@ -29,13 +27,6 @@ class MessageWriter : public zarvik::FIXOutputWriter {
   void require(Record& record, int index, int tag) {
     if (record.isNullValue(index)) requiredFieldMissing(&record, index, tag);
   }
-  // In place, so that the compiler makes a word of the tag.
-  void appendTimestamp(const char* tag, const zarvik::DateTime& value) {
-    appendField(tag, zarvik::FIXType::formatUTCTimestamp(value, scratch));
-  }
-  void appendDate(const char* tag, const zarvik::DateTime& value) {
-    appendField(tag, zarvik::FIXType::formatLocalMktDate(value, scratch));
-  }
   void appendData(const char* lengthTag, const char* dataTag, const zarvik::Binary& value);
 
   // Groups, by the tags of their number and of the fields of an element. An empty group is not written.
@@ -45,7 +36,6 @@ class MessageWriter : public zarvik::FIXOutputWriter {
 
  private:
   const Version version;
-  zarvik::zkstring scratch;  ///< reused for the text of a date
 };
 
 }  // namespace orders
