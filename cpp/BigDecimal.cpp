@@ -22,6 +22,7 @@ long long decimals(const MAPM& value) {
 }  // namespace
 
 zkstring BigDecimal::toString() const { return fixedPointText(cval(), decimals(*this)); }
+void BigDecimal::toString(zkstring& out) const { fixedPointText(cval(), decimals(*this), out); }
 const char* BigDecimal::toString(char* out) const { return writeFixedPoint(out, cval(), decimals(*this)); }
 
 BigDecimal operator+(const BigDecimal& a, const BigDecimal& b) {

@@ -14,6 +14,7 @@ BigInteger::BigInteger(const BigDecimal& value) : MAPM(value) {}
 __int64 BigInteger::toLong() const { return wholeNumber(cval()); }
 
 zkstring BigInteger::toString() const { return fixedPointText(cval(), 0); }
+void BigInteger::toString(zkstring& out) const { fixedPointText(cval(), 0, out); }
 const char* BigInteger::toString(char* out) const { return writeFixedPoint(out, cval(), 0); }
 
 BigInteger operator+(const BigInteger& a, const BigInteger& b) {

@@ -328,9 +328,9 @@ int v_atoi(const char* begin, const char* end) {
 __int64 v_atol(const char* begin, const char* end) { return begin != end ? readWhole<__int64>(begin, end) : 0; }
 
 zkstring bigIntegerToString(const BigInteger& value) { return value.toString(); }
-void bigIntegerToString(const BigInteger& value, zkstring& out) { out = value.toString(); }
+void bigIntegerToString(const BigInteger& value, zkstring& out) { value.toString(out); }
 zkstring bigDecimalToString(const BigDecimal& value) { return value.toString(); }
-void bigDecimalToString(const BigDecimal& value, zkstring& out) { out = value.toString(); }
+void bigDecimalToString(const BigDecimal& value, zkstring& out) { value.toString(out); }
 zkstring binaryToString(const Binary& value) { return value.toString(); }
 zkstring dateTimeToString(const DateTime& value) { return value.toString(datePattern); }
 

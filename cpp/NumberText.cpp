@@ -16,11 +16,15 @@ unsigned int roomFor(long long length) {
 }  // namespace
 
 zkstring fixedPointText(const M_APM_struct* number, long long places) {
-  const M_APM_format format{places};
   zkstring text;
-  char* const out = text.getBuffer(static_cast<int>(roomFor(m_apm_fixpt_length(format, number)) + 1));
-  text.setBufferLength(static_cast<int>(m_apm_to_fixpt_stringex(out, format, number)));
+  fixedPointText(number, places, text);
   return text;
+}
+
+void fixedPointText(const M_APM_struct* number, long long places, zkstring& out) {
+  const M_APM_format format{places};
+  char* const text = out.getBuffer(static_cast<int>(roomFor(m_apm_fixpt_length(format, number)) + 1));
+  out.setBufferLength(static_cast<int>(m_apm_to_fixpt_stringex(text, format, number)));
 }
 
 const char* writeFixedPoint(char* out, const M_APM_struct* number, long long places) {

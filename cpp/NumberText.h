@@ -7,6 +7,7 @@
 namespace zarvik {
 
 zkstring fixedPointText(const M_APM_struct* number, long long places);
+void fixedPointText(const M_APM_struct* number, long long places, zkstring& out);  ///< the same, in out's own block
 const char* writeFixedPoint(char* out, const M_APM_struct* number, long long places);
 
 /// Cut toward zero; throws what `v_atol` throws for a number out of range.

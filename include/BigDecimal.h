@@ -33,6 +33,7 @@ class BigDecimal : public MAPM {
   /// All digits, such as 12.5, 12 and 120.0: a whole number that ends in 0 shows a decimal. Throws TransformException
   /// for a text of more than M_APM_MAX_DIGITS characters, which only an exponent beyond reason asks for.
   zkstring toString() const;
+  void toString(zkstring& out) const;     ///< the same, in out's own block when nobody shares it and it has room
   const char* toString(char* out) const;  ///< the same into a buffer of `fixPtLength` + 1 bytes, 2000 in most cases
 
   bool operator==(const BigDecimal& other) const { return m_apm_compare(cval(), other.cval()) == 0; }

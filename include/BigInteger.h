@@ -33,6 +33,7 @@ class BigInteger : public MAPM {
   /// Rounded half away from zero to a whole number, without a point. Throws TransformException for a text of more than
   /// M_APM_MAX_DIGITS characters, which only an exponent beyond reason asks for.
   zkstring toString() const;
+  void toString(zkstring& out) const;     ///< the same, in out's own block when nobody shares it and it has room
   const char* toString(char* out) const;  ///< the same into a buffer of `fixPtLength(0)` + 1 bytes
 
   bool operator==(const BigInteger& other) const { return m_apm_compare(cval(), other.cval()) == 0; }

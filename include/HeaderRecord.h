@@ -37,6 +37,12 @@ class HeaderRecord : public AbstractDataObject {
     setNotNull(index);
     values.texts[static_cast<unsigned int>(index)] = value;
   }
+  /// Has `write` write the text anew, in the block that it has: write(zkstring& out).
+  template <class Write>
+  void writeText(int index, Write write) {
+    write(values.texts[static_cast<unsigned int>(index)]);
+    setNotNull(index);
+  }
   int number(int index) const {
     ensureNotNull(index);
     return values.numbers[static_cast<unsigned int>(index)];

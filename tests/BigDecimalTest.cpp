@@ -3,7 +3,9 @@
 #include <cmath>
 #include <limits>
 
+#include "Allocations.h"
 #include "BigInteger.h"
+#include "Conversion.h"
 #include "Support.h"
 
 namespace zarvik {
@@ -17,10 +19,16 @@ const BigDecimal early = BigDecimal("1") / BigDecimal("8");
 
 TEST(BigDecimal, showsExactlyItsDigits) {
   EXPECT_EQ(str(early), "0.125");
+  zkstring reused;
   for (const char* text : {"12.5", "12", "0", "-0.001", "120.0", "-7000.0", "123456789012345678901234567890.1"}) {
     EXPECT_EQ(str(BigDecimal(text)), text);
     char buffer[100];
     EXPECT_STREQ(BigDecimal(text).toString(buffer), text);
+    const zkstring kept = reused;
+    const std::string before = kept.c_str();
+    bigDecimalToString(BigDecimal(text), reused);
+    EXPECT_EQ(reused, text);
+    EXPECT_EQ(kept, before.c_str());
   }
   EXPECT_EQ(BigDecimal(("1e" + std::to_string(5000)).c_str()).toString().length(), 5003U);
   EXPECT_EQ(errorOf<TransformException>([] { BigDecimal("1e-2000000000").toString(); }), "Number too long for a text");
@@ -77,6 +85,11 @@ TEST(BigInteger, showsAWholeNumber) {
   EXPECT_EQ(str(BigInteger("-2.5")), "-3");
   EXPECT_EQ(str(BigInteger("-0.4")), "0");
   EXPECT_EQ(str(BigInteger("-5").abs()), "5");
+  zkstring text("a block with room");
+  const Allocations allocations;
+  bigIntegerToString(BigInteger("10912000000007"), text);
+  EXPECT_EQ(text, "10912000000007");
+  EXPECT_EQ(allocations.count(), 0);
 }
 
 TEST(BigInteger, longsFailOutsideTheirRange) {

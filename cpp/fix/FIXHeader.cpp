@@ -7,6 +7,7 @@
 #include "Exceptions.h"
 #include "ThrowFrom.h"
 #include "fix/FIXHeaderParser.h"
+#include "fix/FIXType.h"
 
 namespace zarvik {
 namespace {
@@ -39,6 +40,10 @@ void FIXHeader::setBeginString(const zkstring& value) {
 void FIXHeader::setMsgType(const zkstring& value) {
   setText(MSG_TYPE, value);
   setText(MESSAGE_TYPE, value);
+}
+
+void FIXHeader::setSendingTime(const DateTime& value) {
+  writeText(SENDING_TIME, [&value](zkstring& out) { FIXType::formatUTCTimestamp(value, out); });
 }
 
 void FIXHeader::throwOutOfBounds(int /*index*/) const {

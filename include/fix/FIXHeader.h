@@ -4,6 +4,8 @@
 
 namespace zarvik {
 
+class DateTime;
+
 /// The standard header of a FIX message: what the identifier reads from the raw text, so that routing can decide on
 /// format, version, type and parties.
 ///
@@ -73,6 +75,7 @@ class FIXHeader : public HeaderRecord<FIXHeader, 14, 1U << 4 | 1U << 10> {
   void setTargetSubID(const zkstring& value) { setText(TARGET_SUB_ID, value); }
   const zkstring& getSendingTime() const { return text(SENDING_TIME); }
   void setSendingTime(const zkstring& value) { setText(SENDING_TIME, value); }  ///< no parser does
+  void setSendingTime(const DateTime& value);  ///< as FIXType::formatUTCTimestamp writes it; allocates the first time
 
  private:
   [[noreturn]] void throwOutOfBounds(int index) const override;

@@ -1,10 +1,12 @@
 #include "fix/FIXHeader.h"
 
+#include "Allocations.h"
 #include "DataObjectMetaInfo.h"
 #include "Soh.h"
 #include "StringInputSource.h"
 #include "Support.h"
 #include "WrapperObjects.h"
+#include "date/DateTime.h"
 #include "fix/FIXMessageIdentifier.h"
 
 namespace zarvik {
@@ -38,6 +40,18 @@ TEST(FIXHeader, takesEveryTagIntoItsField) {
   EXPECT_THROW(header.getSendingTime(), FieldNullException);
   header.setBeginString("FIX");
   EXPECT_EQ(header.getMessageVersion(), "");
+}
+
+TEST(FIXHeader, writesTheSendingTimeWhereItsTextWas) {
+  FIXHeader header;
+  header.setSendingTime(DateTime(2001, 2, 3, 4, 5, 6, 7));
+  const zkstring kept = header.getSendingTime();
+  header.setSendingTime(DateTime(2002, 2, 3, 4, 5, 6, 0));  // not into what somebody else holds
+  EXPECT_EQ(kept, "20010203-04:05:06.007");
+  const Allocations allocations;
+  header.setSendingTime(DateTime(2003, 2, 3, 4, 5, 6, 7));
+  EXPECT_EQ(allocations.count(), 0);
+  EXPECT_EQ(header.getSendingTime(), "20030203-04:05:06.007");
 }
 
 /// Wherever a message is cut, the header has what came before, or the error names the place behind the last field.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AbstractDataObject.h"
+#include "BigInteger.h"
 #include "Binary.h"
 #include "date/DateTime.h"
 #include "orders/Group.h"
@@ -80,6 +81,7 @@ class ExecutionReport : public zarvik::AbstractDataObject {
   void setOrdStatus(char value) { setNotNull(ORD_STATUS), values.ordStatus = value; }
   const zarvik::zkstring& getAccount() const { return ensureNotNull(ACCOUNT), values.account; }
   void setAccount(const zarvik::zkstring& value) { setNotNull(ACCOUNT), values.account = value; }
+  void setAccountNumber(const zarvik::BigInteger& value) { setNotNull(ACCOUNT), value.toString(values.account); }
   const zarvik::zkstring& getSymbol() const { return ensureNotNull(SYMBOL), values.symbol; }
   void setSymbol(const zarvik::zkstring& value) { setNotNull(SYMBOL), values.symbol = value; }
   const zarvik::zkstring& getSecurityID() const { return ensureNotNull(SECURITY_ID), values.securityID; }

@@ -129,7 +129,7 @@ void commonToOrder(const FIXHeader& header, const Message& message, Order& order
 template <class Message>
 void commonFromOrder(Order& order, Version version, Message& message) {
   if (order.isNotNull(Order::ID)) message.setClOrdID(order.getID());
-  if (order.isNotNull(Order::ACCOUNT)) message.setAccount(order.getAccount().toString());
+  if (order.isNotNull(Order::ACCOUNT)) message.setAccountNumber(order.getAccount());
   message.setSide(translate(sides, &Code::house, &Code::fix, order.getSide(), "Side"));
   if (order.isNotNull(Order::QUANTITY)) message.setOrderQty(order.getQuantity());
   message.setOrdType(order.isNotNull(Order::PRICE) ? limitOrder : marketOrder);
@@ -188,8 +188,7 @@ void fromOrder(const Order& order, Version version, const char* messageType, Tra
   if (!sender.empty()) header.setSenderCompID(sender);  // the writer misses what is not there
   if (!target.empty()) header.setTargetCompID(target);
   header.setMsgSeqNum(static_cast<int>(order.getSequence()));
-  zkstring text;
-  header.setSendingTime(FIXType::formatUTCTimestamp(order.getSendingTime(), text));
+  header.setSendingTime(order.getSendingTime());
 }
 
 void fromOrder(Order& order, Version version, NewOrderSingle& message) {

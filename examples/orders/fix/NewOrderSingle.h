@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AbstractDataObject.h"
+#include "BigInteger.h"
 #include "Binary.h"
 #include "date/DateTime.h"
 #include "orders/Group.h"
@@ -57,6 +58,7 @@ class NewOrderSingle : public zarvik::AbstractDataObject {
   void setClOrdID(const zarvik::zkstring& value) { setNotNull(CL_ORD_ID), values.clOrdID = value; }
   const zarvik::zkstring& getAccount() const { return ensureNotNull(ACCOUNT), values.account; }
   void setAccount(const zarvik::zkstring& value) { setNotNull(ACCOUNT), values.account = value; }
+  void setAccountNumber(const zarvik::BigInteger& value) { setNotNull(ACCOUNT), value.toString(values.account); }
   char getHandlInst() const { return ensureNotNull(HANDL_INST), values.handlInst; }
   void setHandlInst(char value) { setNotNull(HANDL_INST), values.handlInst = value; }
   const zarvik::zkstring& getSymbol() const { return ensureNotNull(SYMBOL), values.symbol; }
