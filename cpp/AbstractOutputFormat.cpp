@@ -1,7 +1,6 @@
 #include "AbstractOutputFormat.h"
 
 #include "ExternalObject.h"
-#include "GuardedCast.h"
 #include "LookupContextFactory.h"
 #include "OutputTarget.h"
 #include "SimpleOutputWriter.h"
@@ -42,7 +41,9 @@ void AbstractOutputFormat::mapTrailer(DataObject* /*input*/, DataObject* /*data*
                                       TransformContext& /*context*/) {}
 
 SimpleOutputWriter* AbstractOutputFormat::getSimpleOutputWriter() {
-  return guardedCast<SimpleOutputWriter>(getOutputWriter());
+  OutputWriter* const writer = getOutputWriter();
+  if (SimpleOutputWriter* const simple = asSimpleWriter(writer)) return simple;
+  return guardedCast<SimpleOutputWriter>(writer);  // which says why not
 }
 
 zkstring AbstractOutputFormat::writeOutput(ExternalObject& object, TransformContext& context) {

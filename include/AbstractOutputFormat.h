@@ -1,5 +1,6 @@
 #pragma once
 
+#include "GuardedCast.h"
 #include "ILookupContext.h"
 
 namespace zarvik {
@@ -45,6 +46,9 @@ class AbstractOutputFormat : public IOutputFormat {
 
   SmartPtr<ILookupContext> lookupContext;
   OutputDevice* outputDevice = nullptr;  ///< not owned; `write` does not look at it
+
+ private:
+  RememberedCast<SimpleOutputWriter, OutputWriter> asSimpleWriter;
 };
 
 }  // namespace zarvik
