@@ -131,9 +131,9 @@ void AbstractInternalMessage::processAll(DataObject* object, TransformContext& c
   assert(object != nullptr);
   const Alive alive(*object);
   const SmartPtr<DataObject> held(object);
-  if (processingRuleExists(PREPROCESSING_NODE_NAME)) preprocess(held, context);
+  if (preprocessing != nullptr) preprocess(held, context);
   validate(held, context);
-  if (processingRuleExists(POSTPROCESSING_NODE_NAME)) postprocess(held, context);
+  if (postprocessing != nullptr) postprocess(held, context);
 }
 
 SmartPtr<DataObject> AbstractInternalMessage::preprocess(const SmartPtr<DataObject>& object,
@@ -152,7 +152,7 @@ Result<SmartPtr<DataObject>> AbstractInternalMessage::preprocess2(const SmartPtr
 
 void AbstractInternalMessage::preprocess(const SmartPtr<DataObject>& object, ExceptionHandler* handler,
                                          TransformContext& context) {
-  if (processingRuleExists(PREPROCESSING_NODE_NAME)) process(PREPROCESSING_NODE_NAME, object, handler, context);
+  if (preprocessing != nullptr) run(preprocessing, object, handler, context);
 }
 
 SmartPtr<DataObject> AbstractInternalMessage::process(const zkstring& processingName,
@@ -172,7 +172,11 @@ Result<SmartPtr<DataObject>> AbstractInternalMessage::process2(const zkstring& p
 
 void AbstractInternalMessage::process(const zkstring& processingName, const SmartPtr<DataObject>& object,
                                       ExceptionHandler* handler, TransformContext& context) {
-  BusinessProcessingRules* const rules = getProcessingRuleByName(processingName);
+  run(getProcessingRuleByName(processingName), object, handler, context);
+}
+
+void AbstractInternalMessage::run(BusinessProcessingRules* rules, const SmartPtr<DataObject>& object,
+                                  ExceptionHandler* handler, TransformContext& context) {
   rules->setExceptionHandler(handler);
   rules->process(object.get(), context);
 }
@@ -193,7 +197,7 @@ Result<SmartPtr<DataObject>> AbstractInternalMessage::postprocess2(const SmartPt
 
 void AbstractInternalMessage::postprocess(const SmartPtr<DataObject>& object, ExceptionHandler* handler,
                                           TransformContext& context) {
-  if (processingRuleExists(POSTPROCESSING_NODE_NAME)) process(POSTPROCESSING_NODE_NAME, object, handler, context);
+  if (postprocessing != nullptr) run(postprocessing, object, handler, context);
 }
 
 Triggers* AbstractInternalMessage::getTriggers() { return nullptr; }
@@ -203,7 +207,9 @@ void AbstractInternalMessage::addValidator(const zkstring& validatorName, Valida
 }
 
 void AbstractInternalMessage::addProcessing(const zkstring& processingName, BusinessProcessingRules* rules) {
-  processings.emplace(processingName, rules);
+  if (!processings.emplace(processingName, rules).second) return;
+  if (processingName == PREPROCESSING_NODE_NAME) preprocessing = rules;
+  if (processingName == POSTPROCESSING_NODE_NAME) postprocessing = rules;
 }
 
 BusinessProcessingRules* AbstractInternalMessage::getProcessingRuleByName(const zkstring& processingName) const {
@@ -212,10 +218,6 @@ BusinessProcessingRules* AbstractInternalMessage::getProcessingRuleByName(const 
 
 ValidationRules* AbstractInternalMessage::getValidatorByName(const zkstring& validatorName) const {
   return rulesByName(validators, validatorName, "Validator", here);
-}
-
-bool AbstractInternalMessage::processingRuleExists(const zkstring& processingName) const {
-  return processings.find(processingName) != processings.end();
 }
 
 }  // namespace zarvik
