@@ -11,17 +11,9 @@ namespace zarvik::mapm {
 
 namespace {
 
-/// Each byte's units and the tens of the one behind it; the last byte lacks these. Products of digits keep to their
-/// bytes.
-__m128i joinNeighbours(__m128i pairs, __m128i ten) {
-  const __m128i tens = tensOf(pairs);
-  const __m128i units = _mm_sub_epi8(pairs, _mm_mullo_epi16(tens, ten));
-  return _mm_add_epi8(_mm_mullo_epi16(units, ten), _mm_srli_si128(tens, 1));
-}
-
 /// out[i] = the units of in[i] and the tens of in[i + 1], for `bytes` bytes; up to 15 bytes behind them are read and
 /// lost, too. `out` is `in` or a byte behind it, or they lie apart: the next bytes are read before a block is written.
-void joinNeighbours(unsigned char* out, const unsigned char* in, int bytes) {
+void joinAll(unsigned char* out, const unsigned char* in, int bytes) {
   constexpr int step = 15;
   const __m128i ten = factor(10);
   __m128i pairs = load(in);
@@ -38,14 +30,14 @@ void joinNeighbours(unsigned char* out, const unsigned char* in, int bytes) {
 void insertDigit(unsigned char* out, const unsigned char* in, int bytes, unsigned int digit) {
   const auto first = static_cast<unsigned char>(10 * digit + in[0] / 10);
   const auto last = static_cast<unsigned char>(10 * (in[bytes - 1] % 10));
-  joinNeighbours(out + 1, in, bytes);
+  joinAll(out + 1, in, bytes);
   out[0] = first;
   out[bytes] = last;
 }
 
 void dropLeadingDigit(unsigned char* data, int bytes) {
   data[paddedBytes(bytes)] = 0;  // gives its tens
-  joinNeighbours(data, data, paddedBytes(bytes));
+  joinAll(data, data, paddedBytes(bytes));
 }
 
 #else

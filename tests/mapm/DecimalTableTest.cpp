@@ -1,4 +1,5 @@
 // Every operation against results that were computed elsewhere, and long ones against what must hold between them.
+#include <algorithm>
 #include <cstdint>
 #include <random>
 #include <string>
@@ -87,6 +88,40 @@ TEST(DecimalTable, everyResultIsExact) {
     const std::string text = scientific(calculate(row, dec(textOf(row.a)), dec(textOf(row.b))));
     EXPECT_EQ(fnv(text), row.hash) << textOf(row.a) << ' ' << row.operation << ' ' << textOf(row.b) << " to "
                                    << row.places << " gives " << text;
+  }
+}
+
+/// The sum of two rows of as many digits, digit by digit.
+std::string sumOnPaper(const std::string& a, const std::string& b) {
+  std::string sum;
+  int carry = 0;
+  for (std::size_t i = a.size(); i-- > 0; carry /= 10) {
+    carry += a[i] - '0' + b[i] - '0';
+    sum.insert(sum.begin(), static_cast<char>('0' + carry % 10));
+  }
+  return static_cast<char>('0' + carry) + sum;
+}
+
+/// Carries that arise, pass on and stop everywhere in a row; exponents and lengths differ where zeros stand at an end.
+TEST(DecimalTable, sumsCarryAsOnPaper) {
+  std::mt19937 random(7);
+  for (const std::size_t count : {1, 2, 16, 17, 29, 30, 31, 32, 33, 64, 65, 127, 128, 129, 160, 161, 289}) {
+    for (int round = 0; round < 120; ++round) {
+      const char* const kinds[] = {"0123456789", "0000999999", "4545454545"};
+      std::string a;
+      std::string b;
+      for (std::size_t i = 0; i < count; ++i) {
+        a += kinds[round % 3][random() % 10];
+        b += round % 2 != 0 ? kinds[round % 3][random() % 10] : static_cast<char>('9' - a[i] + '0');
+      }
+      b[random() % count] = '9';
+      if (round % 5 == 0) b.replace(0, random() % count, random() % count, '0');
+      if (round % 7 == 0) std::fill(a.begin() + static_cast<long>(random() % count), a.end(), '0');
+      b.resize(count, '0');
+      const BigDecimal sum = dec(a) + dec(b);
+      EXPECT_TRUE(sum == dec(sumOnPaper(a, b))) << a << " + " << b;
+      EXPECT_TRUE(sum - dec(a) == dec(b)) << a << " + " << b;
+    }
   }
 }
 
