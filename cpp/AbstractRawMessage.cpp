@@ -20,17 +20,6 @@ Binary InputSource::getAsBinary() {
   return Binary(std::move(copy));
 }
 
-template <>
-zkstring RawMessageList::toString() const {
-  zkstringbuffer text("[");
-  for (int i = 0; i < size(); ++i) {
-    if (i > 0) text.append(", ");
-    if (const RawMessage& message = get(i); !message.isNull()) text.append(message->getAsString());
-  }
-  text.append(']');
-  return text;
-}
-
 // NOLINTNEXTLINE(bugprone-copy-constructor-init): the copy has no owner yet
 AbstractRawMessage::AbstractRawMessage(const AbstractRawMessage& other)
     : Object(),

@@ -14,6 +14,7 @@
 #include "StringInputSource.h"
 #include "ThrowFrom.h"
 #include "date/DateStr.h"
+#include "formula/FormatFunctions.h"
 
 namespace zarvik {
 namespace {
@@ -136,7 +137,7 @@ char Parsing::parseChar(const zkstring& text) {
 }
 
 DateTime Parsing::parseDate(const zkstring& text, const zkstring& pattern) {
-  return DateTime::fromString(text, pattern);
+  return FormatFunctions::parseDate(text, pattern);
 }
 
 zkstring Parsing::formatDate(const DateTime& date, const zkstring& pattern) { return date.toString(pattern); }

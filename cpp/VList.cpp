@@ -4,6 +4,7 @@
 #include "BigInteger.h"
 #include "Binary.h"
 #include "Conversion.h"
+#include "RawMessage.h"
 #include "date/DateTime.h"
 #include "zkstringbuffer.h"
 
@@ -22,6 +23,7 @@ zkstring elementText(const Binary& value) { return binaryToString(value); }
 zkstring elementText(const BigInteger& value) { return bigIntegerToString(value); }
 zkstring elementText(const BigDecimal& value) { return bigDecimalToString(value); }
 zkstring elementText(const DateTime& value) { return dateTimeToString(value); }
+zkstring elementText(const RawMessage& value) { return value.isNull() ? zkstring() : value->getAsString(); }
 }  // namespace
 
 template <class C, class T>
@@ -46,5 +48,6 @@ template class VList<std::vector<Binary>, Binary>;
 template class VList<std::vector<BigInteger>, BigInteger>;
 template class VList<std::vector<BigDecimal>, BigDecimal>;
 template class VList<std::vector<DateTime>, DateTime>;
+template class VList<std::vector<RawMessage>, RawMessage>;
 
 }  // namespace zarvik

@@ -34,7 +34,7 @@ class Parsing {
   static BigDecimal parseBigDecimal(const zkstring& text) { return text; }  ///< no error: warns and gives 0
   static BigInteger parseBigInteger(const zkstring& text) { return text; }  ///< the same; keeps a fraction
   static Binary parseBinary(const zkstring& text) { return Binary(text.data(), text.length()); }  ///< a copy as it is
-  /// Throws TransformRuntimeException, as DateTime::fromString does.
+  /// A NUL ends the text. Throws TransformRuntimeException, as DateTime::fromString does.
   static DateTime parseDate(const zkstring& text, const zkstring& pattern);
 
   /// The value in a box; null throws TransformNullValueException "Null value". Any number serves as any other.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include "IPropertyMap.h"
@@ -41,12 +42,12 @@ class IRawMessage : public IPropertyMap, public InputSource {
 class RawMessage : public SmartPtr<IRawMessage> {
  public:
   using SmartPtr<IRawMessage>::SmartPtr;
+
+  /// Handles are equal when they lead to the same message, and stand in the order of addresses.
+  bool operator==(const RawMessage& other) const { return get() == other.get(); }
+  bool operator<(const RawMessage& other) const { return std::less<>()(get(), other.get()); }
 };
 
 using RawMessageList = VList<std::vector<RawMessage>, RawMessage>;
-
-/// As that of other lists; an element is the text of its message, and a null one is empty.
-template <>
-zkstring RawMessageList::toString() const;
 
 }  // namespace zarvik

@@ -30,7 +30,7 @@ class SimpleDeque : public std::deque<T> {
 /// "invalid deque<T> subscript") where that is told, and is unchecked elsewhere. One thread at a time.
 ///
 /// `C` is the container of the elements, `T` their type: `SimpleDeque<bool>`, and `std::vector` of char, int, __int64,
-/// float, double, zkstring, Binary, BigInteger, BigDecimal and DateTime.
+/// float, double, zkstring, Binary, BigInteger, BigDecimal, DateTime and RawMessage.
 template <class C, class T>
 class VList : public Object {
  public:
@@ -81,6 +81,7 @@ class VList : public Object {
 
   /// -1 or 1 at the first pair that differs, by which element is the lesser; without one the difference of the sizes.
   int compareTo(const VList& other) const {
+    if (&items() == &other.items()) return 0;  // also with not-a-number in it
     const int common = std::min(size(), other.size());
     for (int i = 0; i < common; ++i) {
       if (!(at(i) == other.at(i))) return at(i) < other.at(i) ? -1 : 1;
@@ -128,7 +129,8 @@ class VList : public Object {
   }
 
   int size() const { return static_cast<int>(items().size()); }
-  zkstring toString() const override;  ///< such as "[1, 2]"; a bool is 0 or 1
+  /// Such as "[1, 2]"; a bool is 0 or 1, a raw message its text, a null one nothing.
+  zkstring toString() const override;
 
   iterator begin() { return items().begin(); }
   iterator end() { return items().end(); }

@@ -1,6 +1,8 @@
 // The four lists: VList, ObjectList, ArrayList and SmallStringMap.
 #include <gmock/gmock.h>
 
+#include <cmath>
+
 #include "Allocations.h"
 #include "ArrayList.h"
 #include "BigDecimal.h"
@@ -70,6 +72,8 @@ TEST(VList, comparesByTheFirstPairThatDiffers) {
   EXPECT_EQ(list.compareTo(listOf<IntList>(1, 9, 3, 4)), -2);
   EXPECT_EQ(list.compareTo(listOf<IntList>(2)), -1);
   EXPECT_EQ(list.compareTo(listOf<IntList>(1, 8, 7)), 1);
+  const auto odd = listOf<VList<std::vector<double>, double>>(std::nan(""));
+  EXPECT_EQ(odd.compareTo(odd), 0);
   EXPECT_TRUE(IntList().equals(IntList()));
   EXPECT_FALSE(list.equals(listOf<IntList>(1)));
 }

@@ -90,6 +90,7 @@ TEST(RawMessage, attachmentsStandInTheOrderOfNames) {
   EXPECT_TRUE(first->unique());
   EXPECT_EQ(message->getAttachmentNames().toString(), "[a, b]");
   EXPECT_EQ(MessageFunctions::getAttachments(message).toString(), "[2, 3]");
+  EXPECT_EQ(MessageFunctions::getAttachments(message).indexOf(message->getAttachment("b")), 1);
   EXPECT_TRUE(message->getAttachment("x").isNull());
   EXPECT_TRUE(message->hasAttachment("x"));  // asking made it known
   message->removeAttachment("a");

@@ -62,7 +62,7 @@ zkstring FormatFunctions::format(const zkstring& pattern, const ObjectList& argu
 DateTime FormatFunctions::parseDate(const zkstring& text) { return parseDate(text, defaultPattern); }
 
 DateTime FormatFunctions::parseDate(const zkstring& text, const zkstring& pattern) {
-  return DateTime::fromString(text, pattern);
+  return DateTime::fromString(text.substr(0, text.find('\0')), pattern);
 }
 
 bool FormatFunctions::isDate(const zkstring& text, const zkstring& pattern) {

@@ -19,7 +19,8 @@ class FormatFunctions {
 
   static zkstring formatDate(const DateTime& date) { return dateTimeToString(date); }  ///< as "MMM dd, yyyy"
   static zkstring formatDate(const DateTime& date, const zkstring& pattern) { return date.toString(pattern); }
-  static DateTime parseDate(const zkstring& text);  ///< as "MMM dd, yyyy"; errors as DateTime::fromString tells
+  /// As "MMM dd, yyyy", or by `pattern`; a NUL ends the text. Errors as DateTime::fromString tells.
+  static DateTime parseDate(const zkstring& text);
   static DateTime parseDate(const zkstring& text, const zkstring& pattern);
   static bool isDate(const zkstring& text, const zkstring& pattern);  ///< whether parseDate would succeed
 

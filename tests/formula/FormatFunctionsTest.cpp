@@ -79,6 +79,7 @@ TEST(FormatFunctions, readsAndPrintsDates) {
   EXPECT_EQ(FormatFunctions::formatDate(DateTime(2024, 2, 29, 0, 0, 0, 0), longPattern + "yyyy"), longPattern + "2024");
   EXPECT_TRUE(FormatFunctions::isDate("20240229", "yyyyMMdd"));
   EXPECT_FALSE(FormatFunctions::isDate("20230229", "yyyyMMdd"));
+  EXPECT_TRUE(FormatFunctions::isDate(zkstring("20240229\0x", 10), "yyyyMMdd"));  // a NUL ends the text
 }
 
 }  // namespace
