@@ -64,6 +64,16 @@ void divideBySchoolbook(Word* quotient, Word* numerator, int n, const Word* divi
   }
 }
 
+/// Long division by blocks of as many words as the divisor has: each leaves the head of the next. A reciprocal longer
+/// than the divisor costs more than it saves.
+void divideByBlocks(Word* quotient, Word* numerator, int n, const Word* divisor, int nd) {
+  for (int left = n - nd + 1; left > 0;) {
+    const int block = (left - 1) % nd + 1;
+    left -= block;
+    divideWords(quotient + left, numerator + left, nd + block - 1, divisor, nd);
+  }
+}
+
 /// Moves all digits of the words one place down; the last one is lost.
 void shiftDown(Word* words, int n) {
   Word digit = 0;
@@ -138,8 +148,10 @@ long long exponentsDifference(const M_APM_struct* a, const M_APM_struct* b) {
 
 void divideWords(Word* quotient, Word* numerator, int n, const Word* divisor, int nd) {
   if (nd == 1) return divideByWord(quotient, numerator, n, divisor[0]);
-  if (nd >= newtonFrom && n - nd >= newtonFrom) return divideByReciprocal(quotient, numerator, n - nd, divisor, nd);
-  divideBySchoolbook(quotient, numerator, n, divisor, nd);
+  const int k = n - nd;
+  if (nd < newtonFrom || k < newtonFrom) return divideBySchoolbook(quotient, numerator, n, divisor, nd);
+  if (k > nd) return divideByBlocks(quotient, numerator, n, divisor, nd);
+  divideByReciprocal(quotient, numerator, k, divisor, nd);
 }
 
 }  // namespace zarvik::mapm

@@ -5,10 +5,13 @@
 namespace zarvik::mapm {
 namespace {
 
-constexpr int schoolbookUpTo = 12;  ///< words; measured
+// In words; measured.
+constexpr int divisionUpTo = 12;
+constexpr int shortDivisor = 20;
+constexpr int muchLonger = 4;  ///< times the divisor
 
-/// base^(nd + k) / divisor by long division.
-void reciprocalBySchoolbook(Word* quotient, int k, const Word* divisor, int nd) {
+/// base^(nd + k) / divisor by division.
+void reciprocalByDivision(Word* quotient, int k, const Word* divisor, int nd) {
   Words numerator(nd + k + 2);
   std::fill_n(static_cast<Word*>(numerator), nd + k + 2, Word{0});
   numerator[nd + k] = 1;
@@ -18,7 +21,7 @@ void reciprocalBySchoolbook(Word* quotient, int k, const Word* divisor, int nd) 
 /// out = base^2n / d, n words, out by a few units at most; n + 1 words. Newton's iteration x' = x + x(1 - dx), each
 /// pass on twice as many words: `half` of them come from the recursion.
 void approximateReciprocal(Word* out, const Word* d, int n) {
-  if (n <= schoolbookUpTo) return reciprocalBySchoolbook(out, n, d, n);
+  if (n <= divisionUpTo) return reciprocalByDivision(out, n, d, n);
   const int half = n / 2 + 1;
   Words x(half + 1);
   approximateReciprocal(x, d + n - half, half);
@@ -80,7 +83,8 @@ void leadingReciprocal(Word* out, int n, const Word* divisor, int nd) {
 }  // namespace
 
 void reciprocalWords(Word* quotient, int k, const Word* divisor, int nd) {
-  if (k <= schoolbookUpTo || nd <= 2) return reciprocalBySchoolbook(quotient, k, divisor, nd);
+  const bool isSoonDivided = k <= divisionUpTo || nd <= shortDivisor || k / muchLonger > nd;
+  if (isSoonDivided) return reciprocalByDivision(quotient, k, divisor, nd);
   const int n = k + 2;
   Words x(n + 1);
   leadingReciprocal(x, n, divisor, nd);

@@ -82,12 +82,15 @@ def main():
     short = [1, 2, 8, 9, 15, 16, 17, 30, 31, 32, 33, 64]
     middle = [94, 95, 96, 97, 100, 192, 250, 640]
     long = [1000, 1500, 2999, 3000]
-    print('// Made by make_table.py.')
+    rows = [('/', (5, 30, 0), (7, 700, 0), 9000)]  # a reciprocal much longer than its divisor
     for row in range(154):
         operation = '+-*/+-*/i%r'[row % 11]
         pool = short if row % 3 == 0 else short + middle if row % 3 == 1 else middle + long
         a, b = ((rng.randrange(1000), rng.choice(pool), rng.choice([0, 0, -1, 7, -rng.randrange(700)])) for _ in '12')
         places = rng.choice([1, 4, 30, 100, 249, 250, 251, 1000])
+        rows.append((operation, a, b, places))
+    print('// Made by make_table.py.')
+    for operation, a, b, places in rows:
         result = OPERATIONS[operation](number(*a), number(*b), places)
         print("{'%s', {%d, %d, %d}, {%d, %d, %d}, %d, 0x%xU}," % (operation, *a, *b, places, fnv(text(result))))
 
