@@ -4,7 +4,9 @@
 #include <bit>
 #include <cctype>
 #include <cstdint>
+#include <iterator>
 #include <new>
+#include <string>
 
 #include "Conversion.h"
 #include "Exceptions.h"
@@ -76,6 +78,31 @@ const char* findText(const char* from, const char* end, const char* pattern, uns
     from = hit + 1;
   }
   return findLong(from, end, pattern, n);
+}
+
+std::string turnedRound(const char* from, const char* end) {
+  return {std::reverse_iterator(end), std::reverse_iterator(from)};
+}
+
+/// The last `pattern` in the text, as the first one in the text turned round.
+const char* findLastLong(const char* from, const char* end, const char* pattern, unsigned int n) {
+  const std::string text = turnedRound(from, end);
+  const char* const start = text.data();
+  const char* const hit = findLong(start, start + text.size(), turnedRound(pattern, pattern + n).data(), n);
+  return hit != nullptr ? end - (hit - start) - n : nullptr;
+}
+
+/// The last `pattern` of n >= 1 bytes that starts from `from` to `last`. When starts of a long one turn out to be many,
+/// the general search takes over.
+const char* findLastText(const char* from, const char* last, const char* pattern, unsigned int n) {
+  constexpr unsigned int many = 64;
+  unsigned int starts = 0;
+  for (const char* p = last + 1; p-- != from;) {
+    if (*p != *pattern) continue;
+    if (std::memcmp(p, pattern, n) == 0) return p;
+    if (n > many && ++starts == many) return findLastLong(from, p + n - 1, pattern, n);
+  }
+  return nullptr;
 }
 }  // namespace
 
@@ -177,10 +204,9 @@ unsigned int zkstring::find(int c, unsigned int pos) const {
 unsigned int zkstring::rfind(const zkstring& pattern, unsigned int pos) const {
   if (pattern.empty()) return std::min(count, pos);
   if (pattern.count > count) return notFound;
-  for (unsigned int i = std::min(count - pattern.count, pos) + 1; i-- > 0;) {
-    if (pointer[i] == *pattern.pointer && std::memcmp(pointer + i, pattern.pointer, pattern.count) == 0) return i;
-  }
-  return notFound;
+  const char* const last = pointer + std::min(count - pattern.count, pos);
+  const char* const hit = findLastText(pointer, last, pattern.pointer, pattern.count);
+  return hit != nullptr ? static_cast<unsigned int>(hit - pointer) : notFound;
 }
 
 unsigned int zkstring::rfind(char c, unsigned int pos) const {

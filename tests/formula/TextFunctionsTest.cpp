@@ -101,6 +101,8 @@ TEST(TextFunctions, findsFromEitherEnd) {
     EXPECT_TRUE(T::findLast(mine(text), "bc", from) == last && T::findLast(mine(text), 'b', from) == last) << from;
   }
   EXPECT_EQ(T::findFirst(mine(text), '\xFF'), 6);
+  const zkstring almost(70, 'a');  // stands in many places, but for its end
+  EXPECT_EQ(T::findLast("x" + almost + "b" + almost + almost, almost + "b"), 1);
   EXPECT_TRUE(T::findLast("", 'x') == -1 && T::findLast("a", "abc") == -1);
 }
 
