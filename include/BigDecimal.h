@@ -9,9 +9,9 @@ class BigInteger;
 
 /// A decimal number of any length, for money and other values that must not round.
 ///
-/// Sums, differences and products are exact. A quotient carries the greatest of both operands' digits and 30; division
-/// by zero warns on standard error and gives 0. Copies share the digits; a moved-from number is 0. One thread at a
-/// time, as with all of MAPM.
+/// Sums, differences and products are exact. A quotient carries the greatest of both operands' digits and 30, and as
+/// many more as the dividend's exponent is above the divisor's; division by zero warns on standard error and gives 0.
+/// Copies share the digits; a moved-from number is 0. One thread at a time, as with all of MAPM.
 class BigDecimal : public MAPM {
  public:
   BigDecimal() noexcept = default;
@@ -34,7 +34,7 @@ class BigDecimal : public MAPM {
   /// for a text of more than M_APM_MAX_DIGITS characters, which only an exponent beyond reason asks for.
   zkstring toString() const;
   void toString(zkstring& out) const;     ///< the same, in out's own block when nobody shares it and it has room
-  const char* toString(char* out) const;  ///< the same into a buffer of `fixPtLength` + 1 bytes, 2000 in most cases
+  const char* toString(char* out) const;  ///< the same into a buffer of `fixPtLength(-1)` + 1 bytes, mostly below 2000
 
   bool operator==(const BigDecimal& other) const { return m_apm_compare(cval(), other.cval()) == 0; }
   bool operator!=(const BigDecimal& other) const { return m_apm_compare(cval(), other.cval()) != 0; }
@@ -57,7 +57,7 @@ class BigDecimal : public MAPM {
 BigDecimal operator+(const BigDecimal& a, const BigDecimal& b);
 BigDecimal operator-(const BigDecimal& a, const BigDecimal& b);
 BigDecimal operator*(const BigDecimal& a, const BigDecimal& b);
-BigDecimal operator/(const BigDecimal& a, const BigDecimal& b);  ///< to the longer operand's digits, at least 30
+BigDecimal operator/(const BigDecimal& a, const BigDecimal& b);  ///< cut, or from 250 digits on rounded
 BigDecimal operator%(const BigDecimal& a, const BigDecimal& b);  ///< bears a's sign
 
 }  // namespace zarvik

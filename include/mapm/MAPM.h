@@ -127,7 +127,7 @@ class MAPM {
   MAPM integer_divide(const MAPM& other) const;  ///< the quotient, cut toward zero
   MAPM div(const MAPM& other) const { return integer_divide(other); }
   MAPM rem(const MAPM& other) const;  ///< this - div * other, so it bears this number's sign
-  void integer_div_rem(const MAPM& other, MAPM& quotient, MAPM& remainder) const;
+  void integer_div_rem(const MAPM& other, MAPM& quotient, MAPM& remainder) const;  ///< `div` and `rem` at once
 
   MAPM round(int places) const;  ///< to places + 1 significant digits, half away from zero
 
@@ -142,7 +142,7 @@ class MAPM {
   /// more than M_APM_MAX_DIGITS characters is refused: a warning, and the empty text.
   void toString(char* out, int places) const;  ///< d.dddE+n with `places` decimals, or all of them if below 0
   void toFixPtString(char* out, int places) const { toFixPtStringEx(out, places, '.', 0, 0); }
-  void toFixPtStringEx(char* out, int places, char point, char separator, int group) const;
+  void toFixPtStringEx(char* out, int places, char point, char separator, int group) const;  ///< see M_APM_format
   char* toFixPtStringExp(int places, char point, char separator, int group) const;  ///< the caller's, to `free`
   void toIntegerString(char* out) const;                                            ///< toward zero
 
@@ -151,14 +151,14 @@ class MAPM {
 
   int toInt() const { return static_cast<int>(toLong()); }  ///< toward zero; beyond `int` the low bits of `toLong`
   long toLong() const { return static_cast<long>(m_apm_to_long(cval())); }  ///< held at the ends of the range
-  float toFloat() const;
-  double toDouble() const { return m_apm_to_double(cval()); }  ///< infinite where a double is too small
+  float toFloat() const;                                                    ///< infinite where a float is too small
+  double toDouble() const { return m_apm_to_double(cval()); }               ///< infinite where a double is too small
 
  protected:
   static constexpr int DEFAULT_PRECISION = 30;
 
   static M_APM_struct* makeNew() { return m_apm_init(); }
-  void create() { number = makeNew(); }
+  void create() { number = makeNew(); }  ///< for a handle without a record
   void destroy() {
     unref(number);
     number = nullptr;
@@ -182,6 +182,7 @@ class MAPM {
   const M_APM_struct* cval() const { return number != nullptr ? number : &zero; }
 
   int myDigits() const { return digits(*this); }
+  /// The greatest of both lengths and DEFAULT_PRECISION.
   int digits(const MAPM& other) const {
     const int longer = cval()->dataLength > other.cval()->dataLength ? cval()->dataLength : other.cval()->dataLength;
     return longer > DEFAULT_PRECISION ? longer : DEFAULT_PRECISION;
