@@ -1,14 +1,13 @@
 #include "Parsing.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cstdlib>
 #include <istream>
 #include <ostream>
-#include <string>
 
 #include "ByteArrayInputSource.h"
+#include "CNumbers.h"
 #include "Exceptions.h"
 #include "KelvaraTypes.h"
 #include "StringInputSource.h"
@@ -34,19 +33,11 @@ constinit const zkstringliteral dateTimeAndMillisPrinted("yyyy-MM-ddTHH:mm:ss.SS
   throwFrom(here, TransformException("Cannot convert '" + text + "' to " + type), site);
 }
 
-bool isOfNumber(char c) {
-  return Parsing::isNumericalDigit(c) || c == '+' || c == '-' || c == '.' || c == 'e' || c == 'E';
-}
-
 /// The C library's reading of a text that is no plain number from end to end: it takes what it can from the start, and
 /// knows a leading '+' and the ends of the range.
 double readByCLibrary(const zkstring& text) {
-  if (!std::all_of(text.data(), text.data() + text.length(), isOfNumber)) cannotConvert(text, "double");
-  std::array<char, 35> room;
-  if (text.length() >= room.size()) return std::strtod(std::string(text.data(), text.length()).c_str(), nullptr);
-  std::copy_n(text.data(), text.length(), room.data());
-  room[text.length()] = '\0';
-  return std::strtod(room.data(), nullptr);
+  if (!isOfNumber(text)) cannotConvert(text, "double");
+  return std::strtod(Terminated(text).get(), nullptr);
 }
 
 /// Whether `text`, read to its end as a double, has told by its start that it is a number of digits: the others, such

@@ -1,11 +1,9 @@
 #include "formula/FormatFunctions.h"
 
-#include <algorithm>
-#include <array>
 #include <cstdio>
 #include <cstdlib>
-#include <string>
 
+#include "../CNumbers.h"
 #include "Exceptions.h"
 #include "MessageFormatter.h"
 #include "ThrowFrom.h"
@@ -16,28 +14,7 @@ namespace {
 constexpr char here[] = "cpp/formula/FormatFunctions";
 constinit const zkstringliteral defaultPattern("MMM dd, yyyy");
 
-/// The text with a terminator, for the C library; a short one without allocation.
-class Terminated {
- public:
-  explicit Terminated(const zkstring& text) {
-    if (text.length() < room.size()) {
-      *std::copy_n(text.data(), text.length(), room.data()) = '\0';
-    } else {
-      copy.assign(text.data(), text.length());
-    }
-  }
-  const char* get() const { return copy.empty() ? room.data() : copy.c_str(); }
-
- private:
-  std::array<char, 35> room;
-  std::string copy;
-};
-
 bool scanDouble(const zkstring& text, double& value) { return std::sscanf(Terminated(text).get(), "%lf", &value) == 1; }
-
-bool isOfNumber(char c) {
-  return Parsing::isNumericalDigit(c) || c == '+' || c == '-' || c == '.' || c == 'e' || c == 'E';
-}
 
 /// Whether `read` gets through the text without a failure.
 template <class Read>
@@ -71,7 +48,7 @@ bool FormatFunctions::isDate(const zkstring& text, const zkstring& pattern) {
 
 bool FormatFunctions::isDouble(const zkstring& text) {
   double value;
-  return std::all_of(text.data(), text.data() + text.length(), isOfNumber) && scanDouble(text, value);
+  return isOfNumber(text) && scanDouble(text, value);
 }
 
 bool FormatFunctions::isInt(const zkstring& text) {
