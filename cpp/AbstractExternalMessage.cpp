@@ -9,7 +9,6 @@
 #include "FieldsValidationRules.h"
 #include "InputParser.h"
 #include "LookupContextFactory.h"
-#include "NamedRules.h"
 #include "SimpleOutputWriter.h"
 #include "TransformContext.h"
 
@@ -153,11 +152,11 @@ std::optional<Binary> AbstractExternalMessage::genericForm(ExternalObject& objec
 }
 
 void AbstractExternalMessage::addValidator(const zkstring& validatorName, FieldsValidationRules* rules) {
-  validators.emplace(validatorName, rules);
+  validators.add(validatorName, rules);
 }
 
 FieldsValidationRules* AbstractExternalMessage::getValidatorByName(const zkstring& validatorName) const {
-  return rulesByName(validators, validatorName, "Validator", here);
+  return validators.get(validatorName, "Validator", here);
 }
 
 }  // namespace zarvik

@@ -6,7 +6,6 @@
 #include "ByteArrayInputSource.h"
 #include "Collecting.h"
 #include "DataObjectIO.h"
-#include "NamedRules.h"
 #include "OutputDevice.h"
 #include "Stamped.h"
 #include "TransformContext.h"
@@ -131,9 +130,9 @@ void AbstractInternalMessage::processAll(DataObject* object, TransformContext& c
   assert(object != nullptr);
   const Alive alive(*object);
   const SmartPtr<DataObject> held(object);
-  if (preprocessing != nullptr) preprocess(held, context);
+  if (processingRuleExists(PREPROCESSING_NODE_NAME)) preprocess(held, context);
   validate(held, context);
-  if (postprocessing != nullptr) postprocess(held, context);
+  if (processingRuleExists(POSTPROCESSING_NODE_NAME)) postprocess(held, context);
 }
 
 SmartPtr<DataObject> AbstractInternalMessage::preprocess(const SmartPtr<DataObject>& object,
@@ -152,7 +151,7 @@ Result<SmartPtr<DataObject>> AbstractInternalMessage::preprocess2(const SmartPtr
 
 void AbstractInternalMessage::preprocess(const SmartPtr<DataObject>& object, ExceptionHandler* handler,
                                          TransformContext& context) {
-  if (preprocessing != nullptr) run(preprocessing, object, handler, context);
+  if (processingRuleExists(PREPROCESSING_NODE_NAME)) process(PREPROCESSING_NODE_NAME, object, handler, context);
 }
 
 SmartPtr<DataObject> AbstractInternalMessage::process(const zkstring& processingName,
@@ -172,11 +171,7 @@ Result<SmartPtr<DataObject>> AbstractInternalMessage::process2(const zkstring& p
 
 void AbstractInternalMessage::process(const zkstring& processingName, const SmartPtr<DataObject>& object,
                                       ExceptionHandler* handler, TransformContext& context) {
-  run(getProcessingRuleByName(processingName), object, handler, context);
-}
-
-void AbstractInternalMessage::run(BusinessProcessingRules* rules, const SmartPtr<DataObject>& object,
-                                  ExceptionHandler* handler, TransformContext& context) {
+  BusinessProcessingRules* const rules = getProcessingRuleByName(processingName);
   rules->setExceptionHandler(handler);
   rules->process(object.get(), context);
 }
@@ -197,27 +192,29 @@ Result<SmartPtr<DataObject>> AbstractInternalMessage::postprocess2(const SmartPt
 
 void AbstractInternalMessage::postprocess(const SmartPtr<DataObject>& object, ExceptionHandler* handler,
                                           TransformContext& context) {
-  if (postprocessing != nullptr) run(postprocessing, object, handler, context);
+  if (processingRuleExists(POSTPROCESSING_NODE_NAME)) process(POSTPROCESSING_NODE_NAME, object, handler, context);
 }
 
 Triggers* AbstractInternalMessage::getTriggers() { return nullptr; }
 
 void AbstractInternalMessage::addValidator(const zkstring& validatorName, ValidationRules* rules) {
-  validators.emplace(validatorName, rules);
+  validators.add(validatorName, rules);
 }
 
 void AbstractInternalMessage::addProcessing(const zkstring& processingName, BusinessProcessingRules* rules) {
-  if (!processings.emplace(processingName, rules).second) return;
-  if (processingName == PREPROCESSING_NODE_NAME) preprocessing = rules;
-  if (processingName == POSTPROCESSING_NODE_NAME) postprocessing = rules;
+  processings.add(processingName, rules);
 }
 
 BusinessProcessingRules* AbstractInternalMessage::getProcessingRuleByName(const zkstring& processingName) const {
-  return rulesByName(processings, processingName, "Processing", here);
+  return processings.get(processingName, "Processing", here);
 }
 
 ValidationRules* AbstractInternalMessage::getValidatorByName(const zkstring& validatorName) const {
-  return rulesByName(validators, validatorName, "Validator", here);
+  return validators.get(validatorName, "Validator", here);
+}
+
+bool AbstractInternalMessage::processingRuleExists(const zkstring& processingName) const {
+  return processings.find(processingName) != nullptr;
 }
 
 }  // namespace zarvik

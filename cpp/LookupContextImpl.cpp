@@ -1,7 +1,6 @@
 #include "LookupContextImpl.h"
 
 #include "Exceptions.h"
-#include "GuardedCast.h"
 #include "ObjectFactory.h"
 #include "ThrowFrom.h"
 
@@ -93,8 +92,7 @@ SmartPtr<IOutputFormat> LookupContextImpl::lookupOutputFormat(const zkstring& na
 }
 
 IOutputProtocol* LookupContextImpl::lookupOutputProtocol(const zkstring& name) {
-  thread_local RememberedCast<IOutputProtocol, Object> asProtocol;  // the registry is read by any thread
-  if (IOutputProtocol* const protocol = asProtocol(lookup(name))) return protocol;
+  if (auto* const protocol = dynamic_cast<IOutputProtocol*>(lookup(name))) return protocol;
   throwFrom(here, TransformException("Device not available at " + name));
 }
 

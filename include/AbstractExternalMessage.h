@@ -1,10 +1,10 @@
 #pragma once
 
-#include <map>
 #include <optional>
 
 #include "IExternalMessage.h"
 #include "ILookupContext.h"
+#include "NamedRules.h"
 
 namespace zarvik {
 
@@ -86,7 +86,7 @@ class AbstractExternalMessage : public IExternalMessage {
   /// `object` in the form that the context asks for, or nothing where that is the message's own.
   static std::optional<Binary> genericForm(ExternalObject& object, TransformContext& context);
 
-  std::map<zkstring, FieldsValidationRules*> validators;
+  NamedRules<FieldsValidationRules> validators;
 };
 
 }  // namespace zarvik

@@ -1,8 +1,7 @@
 #pragma once
 
-#include <map>
-
 #include "IInternalMessage.h"
+#include "NamedRules.h"
 
 namespace zarvik {
 
@@ -83,17 +82,13 @@ class AbstractInternalMessage : public IInternalMessage {
  private:
   BusinessProcessingRules* getProcessingRuleByName(const zkstring& processingName) const;
   ValidationRules* getValidatorByName(const zkstring& validatorName) const;
+  bool processingRuleExists(const zkstring& processingName) const;
   void processAll(DataObject* object, TransformContext& context);
-  static void run(BusinessProcessingRules* rules, const SmartPtr<DataObject>& object, ExceptionHandler* handler,
-                  TransformContext& context);
   void process(const zkstring& processingName, const SmartPtr<DataObject>& object, ExceptionHandler* handler,
                TransformContext& context);
 
-  std::map<zkstring, ValidationRules*> validators;
-  std::map<zkstring, BusinessProcessingRules*> processings;
-  // Those that every message meets, so that none of them is looked up; null if there are none.
-  BusinessProcessingRules* preprocessing = nullptr;
-  BusinessProcessingRules* postprocessing = nullptr;
+  NamedRules<ValidationRules> validators;
+  NamedRules<BusinessProcessingRules> processings;
 };
 
 }  // namespace zarvik

@@ -94,6 +94,7 @@
 #include "MessageIdentificationService.h"
 #include "MessageIdentifier.h"
 #include "MessageRouter.h"
+#include "NamedRules.h"
 #include "NormalizedObjectValidationRules.h"
 #include "Object.h"
 #include "ObjectFactory.h"
