@@ -37,9 +37,14 @@ class VList : public Object {
   using iterator = typename C::iterator;
   using const_iterator = typename C::const_iterator;
 
-  class ListImpl : public C, public ObjectRef {};  ///< the storage: the container, counted
+  class ListImpl : public C, public ObjectRef {  ///< the storage: the container, counted
+   public:
+    ListImpl() = default;
+    explicit ListImpl(C&& elements) : C(std::move(elements)) {}
+  };
 
-  VList() { createList(); }  ///< a vector gets room for 10 elements
+  VList() { createList(); }                                                  ///< a vector gets room for 10 elements
+  explicit VList(C&& elements) : list(new ListImpl(std::move(elements))) {}  ///< takes them over
   VList(const VList& other) : Object(), list(&other.items()) {}
   VList(VList&& other) noexcept : list(std::move(other.list)) {}
   ~VList() noexcept(false) override = default;

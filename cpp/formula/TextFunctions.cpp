@@ -7,6 +7,8 @@
 #include <cstring>
 #include <limits>
 #include <new>
+#include <utility>
+#include <vector>
 
 #include "Conversion.h"
 #include "Exceptions.h"
@@ -75,6 +77,28 @@ unsigned int nextByte(const zkstring& text, unsigned int from, char wanted) {
 /// The first `pattern`, of at least one byte, at or behind `from`; -1 if there is none.
 unsigned int nextMatch(const zkstring& text, unsigned int from, const zkstring& pattern) {
   return pattern.length() == 1 ? nextByte(text, from, pattern[0]) : text.find(pattern, from);
+}
+
+/// How often `wanted` stands in `text`. In runs that one byte can count: so the compiler counts many bytes at once.
+unsigned int countOf(const zkstring& text, char wanted) {
+  unsigned int count = 0;
+  const char* byte = text.data();
+  for (unsigned int rest = text.length(); rest != 0;) {
+    const unsigned int run = std::min(rest, 240U);
+    unsigned char hits = 0;
+    for (unsigned int i = 0; i < run; ++i) hits = static_cast<unsigned char>(hits + (byte[i] == wanted ? 1 : 0));
+    count += hits;
+    byte += run;
+    rest -= run;
+  }
+  return count;
+}
+
+/// For how many parts of `text` to make room. Only one byte is counted quickly, and for few parts it does not pay.
+unsigned int expectedParts(const zkstring& delimiter, const zkstring& text, unsigned int limit) {
+  constexpr unsigned int few = 10;
+  if (delimiter.length() > 1 || limit <= few) return std::min(few, limit);
+  return std::min(countOf(text, delimiter[0]) + 1, limit);
 }
 
 /// Whether `pattern` stands in `text` at `pos`, where bytes agree that `same` takes for equal.
@@ -308,20 +332,21 @@ bool TextFunctions::isNum(const zkstring& text) { return allOf(text, isDigit); }
 bool TextFunctions::isNum(char c) { return isDigit(c); }
 
 StringList TextFunctions::split(const zkstring& delimiter, const zkstring& text, int limit) {
-  StringList parts;
-  if (text.empty()) return parts;
-  if (delimiter.empty()) return parts.add(text);
-  for (unsigned int start = 0; start < text.length() && parts.size() < limit;) {
+  if (text.empty()) return {};
+  if (delimiter.empty()) return StringList().add(text);
+  std::vector<zkstring> parts;  // not a list as yet: that would have room of its own already
+  parts.reserve(expectedParts(delimiter, text, notNegative(limit)));
+  for (unsigned int start = 0; start < text.length() && static_cast<int>(parts.size()) < limit;) {
     const unsigned int hit = nextMatch(text, start, delimiter);
     if (hit == notFound) {
-      parts.add(text.substr(start));
+      parts.push_back(text.substr(start));
       break;
     }
-    parts.add(text.substr(start, hit - start));
+    parts.push_back(text.substr(start, hit - start));
     start = hit + delimiter.length();
-    if (start == text.length()) parts.add(text.substr(start));
+    if (start == text.length()) parts.push_back(text.substr(start));
   }
-  return parts;
+  return StringList(std::move(parts));
 }
 
 zkstring TextFunctions::lowercase(const zkstring& text) {
