@@ -105,7 +105,8 @@ std::string sumOnPaper(const std::string& a, const std::string& b) {
 /// Carries that arise, pass on and stop everywhere in a row; exponents and lengths differ where zeros stand at an end.
 TEST(DecimalTable, sumsCarryAsOnPaper) {
   std::mt19937 random(7);
-  for (const std::size_t count : {1, 2, 16, 17, 29, 30, 31, 32, 33, 64, 65, 127, 128, 129, 160, 161, 289}) {
+  constexpr std::size_t counts[] = {1, 2, 16, 17, 29, 30, 31, 32, 33, 64, 65, 127, 128, 129, 160, 161, 289};
+  for (const std::size_t count : counts) {
     for (int round = 0; round < 120; ++round) {
       const char* const kinds[] = {"0123456789", "0000999999", "4545454545"};
       std::string a;
