@@ -1,12 +1,6 @@
 #include "AbstractInputFormat.h"
 
-#include "LookupContextFactory.h"
-#include "NoTransaction.h"
-#include "ObjectFactory.h"
 #include "Reporting.h"
-#include "StringInputSource.h"
-#include "Support.h"
-#include "TransformContext.h"
 
 namespace zarvik {
 namespace {

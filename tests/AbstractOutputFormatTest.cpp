@@ -1,13 +1,6 @@
 #include "AbstractOutputFormat.h"
 
-#include "AbstractSimpleOutputWriter.h"
-#include "ExternalObject.h"
-#include "LookupContextFactory.h"
-#include "OutputDevice.h"
-#include "Support.h"
 #include "TestRecord.h"
-#include "TransformContext.h"
-#include "zkstringbuffer.h"
 
 namespace zarvik {
 namespace {

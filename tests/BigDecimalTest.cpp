@@ -3,9 +3,6 @@
 #include <cmath>
 #include <limits>
 
-#include "Allocations.h"
-#include "BigInteger.h"
-#include "Conversion.h"
 #include "Support.h"
 
 namespace zarvik {

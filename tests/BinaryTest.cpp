@@ -2,7 +2,6 @@
 
 #include <random>
 
-#include "Allocations.h"
 #include "Support.h"
 
 namespace zarvik {

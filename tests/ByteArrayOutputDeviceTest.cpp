@@ -3,10 +3,7 @@
 #include <limits>
 #include <new>
 
-#include "ContextOutputProtocol.h"
-#include "IOutputContext.h"
 #include "Support.h"
-#include "TransformContext.h"
 
 namespace zarvik {
 namespace {

@@ -3,8 +3,6 @@
 #include <limits>
 #include <new>
 
-#include "Allocations.h"
-#include "MathUtil.h"
 #include "Support.h"
 
 namespace zarvik {

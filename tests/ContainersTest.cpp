@@ -3,17 +3,8 @@
 
 #include <cmath>
 
-#include "Allocations.h"
 #include "ArrayList.h"
-#include "BigDecimal.h"
-#include "BigInteger.h"
-#include "Binary.h"
-#include "Living.h"
-#include "ObjectList.h"
-#include "SmallStringMap.h"
 #include "Support.h"
-#include "VList.h"
-#include "date/DateTime.h"
 
 namespace zarvik {
 namespace {

@@ -3,12 +3,7 @@
 #include <memory>
 #include <random>
 
-#include "ExternalObject.h"
-#include "GenericDataObject.h"
-#include "Parsing.h"
-#include "Support.h"
 #include "TestRecord.h"
-#include "zkstringbuffer.h"
 
 namespace zarvik {
 namespace {

@@ -1,7 +1,5 @@
 #include "DataObjectMetaInfo.h"
 
-#include "Exceptions.h"
-#include "KelvaraTypes.h"
 #include "Support.h"
 
 namespace zarvik {

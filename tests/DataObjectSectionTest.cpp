@@ -1,7 +1,6 @@
 #include <stdexcept>
 
 #include "Exceptions.h"
-#include "Support.h"
 #include "TestRecord.h"
 
 namespace zarvik {

@@ -1,8 +1,6 @@
 #include <utility>
 
-#include "Allocations.h"
 #include "Exceptions.h"
-#include "Support.h"
 #include "TestRecord.h"
 
 namespace zarvik {

@@ -3,8 +3,6 @@
 #include <cmath>
 #include <limits>
 
-#include "Exceptions.h"
-#include "Support.h"
 #include "TestRecord.h"
 
 namespace zarvik {

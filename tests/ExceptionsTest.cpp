@@ -1,10 +1,7 @@
+// The exceptions, and the handlers that get them.
 #include "Exceptions.h"
 
-#include "DataObjectMetaInfo.h"
-#include "SmartPtr.h"
 #include "Support.h"
-#include "ThrowFrom.h"
-#include "WrapperObjects.h"
 
 namespace zarvik {
 namespace {
@@ -155,6 +152,40 @@ TEST(ExceptionDataObject, isOfItsOwnType) {
   EXPECT_EQ(ExceptionDataObject::metaInfo()->getName(), "ExceptionDataObject2");
   EXPECT_TRUE(ExceptionDataObject::instanceOf("TransformException"));
   EXPECT_FALSE(ExceptionDataObject::instanceOf("ExceptionDataObject2"));
+}
+
+/// What a static initialiser finds.
+ExceptionHandler* const seenAtStartUp = ExceptionHandler::DRACONIAN_EXCEPTION_HANDLER;
+
+TEST(DraconianExceptionHandler, throwsThePlainClassWithAllThatIsKnown) {
+  FieldValidationException error("bad", "Symbol");
+  error.setErrorType("Validation");
+  const TransformException expected(error);
+  try {
+    seenAtStartUp->onException(&error);
+    FAIL();
+  } catch (const TransformException& thrown) {
+    EXPECT_EQ(classOf(thrown), "zarvik::TransformException");
+    EXPECT_EQ(thrown.toString(), expected.toString());
+  }
+  ExceptionDataObject data;
+  data.setMessage("from data");
+  EXPECT_EQ(errorOf<TransformException>([&] { seenAtStartUp->onException(&data); }), "from data");
+}
+
+TEST(CascadingExceptionHandler, keepsClonesInTheOrderOfArrival) {
+  CascadingExceptionHandler handler;
+  EXPECT_TRUE(handler.getExceptions().empty());
+  FieldParsingException error("first", "Symbol");
+  handler.onException(&error);
+  error.setMessage("second");
+  handler.onException(&error);
+  ASSERT_EQ(handler.getExceptions().size(), 2U);
+  const SmartPtr<ExceptionDataObject> first(handler.getExceptions()[0]);
+  const SmartPtr<ExceptionDataObject> second(handler.getExceptions()[1]);
+  EXPECT_EQ(first->getMessage(), "first");
+  EXPECT_EQ(second->getMessage(), "second");
+  EXPECT_EQ(classOf(*first), "zarvik::FieldParsingException");
 }
 
 }  // namespace

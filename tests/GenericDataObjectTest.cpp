@@ -1,8 +1,5 @@
 #include "GenericDataObject.h"
 
-#include "Exceptions.h"
-#include "ExternalObject.h"
-#include "Support.h"
 #include "TestRecord.h"
 
 namespace zarvik {

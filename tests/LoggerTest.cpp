@@ -1,9 +1,5 @@
 #include "Logger.h"
 
-#include "Allocations.h"
-#include "LogFactory.h"
-#include "LoggingConstants.h"
-#include "SimpleLogger.h"
 #include "Support.h"
 
 namespace zarvik {

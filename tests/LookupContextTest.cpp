@@ -1,15 +1,7 @@
 #include <algorithm>
 
 #include "AbstractExternalMessage.h"
-#include "ContextOutputProtocol.h"
-#include "Living.h"
-#include "LookupContextFactory.h"
-#include "LookupContextImpl.h"
-#include "NoTransaction.h"
-#include "ObjectFactory.h"
-#include "SimpleXMLOutputFormat.h"
 #include "Support.h"
-#include "TriggerContextImpl.h"
 
 namespace zarvik {
 namespace {

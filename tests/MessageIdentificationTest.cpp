@@ -1,15 +1,6 @@
 #include "CartridgeMessageIdentifier.h"
-#include "DataObject.h"
-#include "Living.h"
-#include "LookupContextFactory.h"
-#include "MessageHeaderAdapter.h"
-#include "MessageIdentificationService.h"
-#include "ObjectFactory.h"
-#include "StringInputSource.h"
 #include "Support.h"
-#include "TransformContext.h"
-#include "UserClassManager.h"
-#include "fix/Soh.h"
+#include "fix/FIXText.h"
 
 namespace zarvik {
 namespace {

@@ -5,16 +5,7 @@
 #include <sstream>
 #include <stdexcept>
 
-#include "DataObjectMetaInfo.h"
-#include "Exceptions.h"
-#include "GenericDataObject.h"
-#include "KelvaraTypes.h"
-#include "LookupContextFactory.h"
-#include "MessageHeaderAdapter.h"
-#include "ObjectFactory.h"
-#include "StringInputSource.h"
 #include "Support.h"
-#include "TransformContext.h"
 
 namespace zarvik {
 namespace {

@@ -2,8 +2,6 @@
 
 #include <memory>
 
-#include "Class.h"
-#include "SmartPtr.h"
 #include "Support.h"
 
 namespace zarvik {

@@ -7,13 +7,10 @@
 #include <random>
 #include <sstream>
 
-#include "SmartPtr.h"
 #include "Support.h"
 
 namespace zarvik {
 namespace {
-
-zkstring text(const std::string& bytes) { return zkstring(bytes.data(), static_cast<unsigned int>(bytes.size())); }
 
 bool sameBits(double a, double b) { return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b); }
 
@@ -24,7 +21,7 @@ TEST(parseDouble, readsAsTheCLibrary) {
       "0.1000000000000000055511151231257827021181583404541015625 00000000000000000000000000000000000000000000000001.5 "
       "+0000000000000000000000000000000000000000000000000001e1 1e99999999999999999999 0e99999999999999999999");
   for (std::string number; numbers >> number;) {
-    EXPECT_PRED2(sameBits, Parsing::parseDouble(text(number)), std::strtod(number.c_str(), nullptr)) << number;
+    EXPECT_PRED2(sameBits, Parsing::parseDouble(zk(number)), std::strtod(number.c_str(), nullptr)) << number;
   }
   EXPECT_EQ(Parsing::parseDouble(""), 0);
 }
@@ -42,7 +39,7 @@ TEST(parseDouble, readsRandomTextsAsTheCLibrary) {
     } else {  // anything that passes the look at the characters
       for (auto n = random() % 12; n > 0; --n) number += "0123456789+-.eE"[random() % 15];
     }
-    ASSERT_PRED2(sameBits, Parsing::parseDouble(text(number)), std::strtod(number.c_str(), nullptr)) << number;
+    ASSERT_PRED2(sameBits, Parsing::parseDouble(zk(number)), std::strtod(number.c_str(), nullptr)) << number;
   }
 }
 

@@ -1,13 +1,9 @@
 #include <cmath>
 #include <stdexcept>
 
-#include "Allocations.h"
 #include "PropertyMapDelegate.h"
-#include "PropertyMapImpl.h"
 #include "Support.h"
-#include "WildcardFilter.h"
 #include "WildcardRule.h"
-#include "WrapperObjects.h"
 
 namespace zarvik {
 namespace {

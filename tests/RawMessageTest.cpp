@@ -2,15 +2,7 @@
 
 #include <cstdio>
 
-#include "Allocations.h"
-#include "ByteArrayInputSource.h"
-#include "FileInputSource.h"
-#include "LineReader.h"
-#include "Parsing.h"
-#include "RawMessageObject.h"
-#include "StringInputSource.h"
 #include "Support.h"
-#include "formula/MessageFunctions.h"
 
 namespace zarvik {
 namespace {
@@ -20,8 +12,6 @@ char* blockOf(const std::string& bytes) {
   bytes.copy(block, bytes.size());
   return block;
 }
-
-std::string textOf(const zkstring& text) { return std::string(text.data(), text.length()); }
 
 /// A file in the folder of temporary files that goes with the scope.
 struct TemporaryFile {
@@ -50,10 +40,10 @@ TEST(RawMessage, everySourceGivesItsBytesAgainAndAgain) {
       const char* const start = source->getAsBytes(length);
       EXPECT_EQ(std::string(start, static_cast<std::size_t>(length)), bytes);
     }
-    EXPECT_EQ(textOf(source->getAsString()), bytes);
-    EXPECT_EQ(textOf(source->getAsString("UTF-16")), bytes);
+    EXPECT_EQ(str(source->getAsString()), bytes);
+    EXPECT_EQ(str(source->getAsString("UTF-16")), bytes);
     const Binary copy = source->getAsBinary();
-    EXPECT_EQ(textOf(copy.toString()), bytes);
+    EXPECT_EQ(str(copy.toString()), bytes);
     EXPECT_EQ(copy.data()[5], '\0');
   }
 }
@@ -162,9 +152,9 @@ TEST(Parsing, makesRawMessagesOfBytesAndTexts) {
 std::string linesOf(const std::string& data, bool hasTrailer) {
   LineReader reader(data.data(), static_cast<int>(data.size()), hasTrailer);
   std::string lines;
-  while (reader.hasMoreLines()) lines += "[" + textOf(reader.getNextLine()) + "]";
-  EXPECT_EQ(textOf(reader.getNextLine() + reader.getNextLine()), "");
-  return hasTrailer ? lines + "/" + textOf(reader.getTrailerLine()) : lines;
+  while (reader.hasMoreLines()) lines += "[" + str(reader.getNextLine()) + "]";
+  EXPECT_EQ(str(reader.getNextLine() + reader.getNextLine()), "");
+  return hasTrailer ? lines + "/" + str(reader.getTrailerLine()) : lines;
 }
 
 TEST(LineReader, splitsAtLineEnds) {

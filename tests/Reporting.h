@@ -3,12 +3,6 @@
 #include <string>
 #include <type_traits>
 
-#include "ExceptionHandler.h"
-#include "Exceptions.h"
-#include "ExternalObject.h"
-#include "GuardedCast.h"
-#include "RawMessage.h"
-#include "Result.h"
 #include "TestRecord.h"
 
 namespace zarvik {
@@ -22,7 +16,7 @@ inline void report(const std::string& text, ExceptionHandler* handler) {
   }
 }
 
-inline std::string told(const zkstring& text) { return {text.data(), text.length()}; }
+inline std::string told(const zkstring& text) { return str(text); }
 inline std::string told(const Binary& bytes) { return told(bytes.toString()); }
 inline std::string told(const RawMessage& message) { return told(message->getAsString()); }
 inline std::string told(DataObject* record) { return told(guardedCast<TestRecord>(record)->values.name); }

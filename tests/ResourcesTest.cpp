@@ -1,10 +1,10 @@
+// The catalogues of texts, and what is made of their entries.
 #include "Resources.h"
 
 #include <cstdint>
 #include <fstream>
 #include <set>
 
-#include "PropertyResourceBundle.h"
 #include "Support.h"
 
 namespace zarvik {
@@ -95,6 +95,55 @@ TEST(Resources, passesOverEmptyValues) {
   Resources::getDefaultResources().addResourceBundle("AResourcesTest", early);
   EXPECT_EQ(Resources::getProperty("SRT100.code"), "SRT00");
   EXPECT_EQ(Resources::getProperty("ResourcesTest.key"), "found");
+}
+
+TEST(MessageFormatter, replacesPlaceholders) {
+  constexpr const char* rows[][2] = {
+      {"", ""},
+      {"a{0}b", "axb"},
+      {"{2}{1}{0}{0}", "null7xx"},
+      {"a{3}b", "a{3}b"},
+      {"a{zz}b", "a{zz}b"},
+      {"a{-1}b", "a{-1}b"},
+      {"{}", "{}"},
+      {"a{0", "a{0"},
+      {"{", "{"},
+      {"{{0}}", "{x}"},
+      {"{+}{-}{00001}", "xx7"},                       // a lone sign reads as 0
+      {"{4294967296}{2147483648}", "x{2147483648}"},  // wraps to 0; overflows
+      {"''{0}''", "'x'"},
+      {"'{0}'", "'x'"},
+      {"it's", "it's"},
+      {"it''s", "it's"},
+      {"'''", "''"},
+      {"''''", "''"},
+      {"{'' ''}", "{' '}"},
+      {"ends in '", "ends in '"},
+  };
+  ObjectList arguments("x", 7);
+  arguments.add(static_cast<Object*>(nullptr));
+  for (const auto& [pattern, text] : rows) EXPECT_EQ(MessageFormatter::format(pattern, arguments), text) << pattern;
+}
+
+TEST(MessageFormatter, insertsTextsAsTheyAre) {
+  EXPECT_EQ(MessageFormatter::format("{0}{1}", ObjectList("''{1}", "b")), "''{1}b");
+  EXPECT_EQ(MessageFormatter::format("{0}", ObjectList()), "{0}");
+}
+
+TEST(FromCatalogue, givesTextAndCodeOfTheEntry) {
+  const std::tuple<TransformException, const char*, const char*> rows[] = {
+      {fromCatalogue<FieldNotFoundException>("SRT178", {"Legs"}), "SRT38", "No section with name 'Legs'."},
+      {fromCatalogue<SectionConstraintException>("SRT302", {5, zkstring("Legs"), -1}), "SRT65",
+       "The number of elements (5) in the section 'Legs' is greater than -1."},
+      {fromCatalogue<TransformException>("SRT552", {"x"}), "SRT85", "'x'"},
+      {fromCatalogue<TransformException>("SRT127", {"only one"}), "SRT20", "Cannot convert 'only one' to '{1}'."},
+      {fromCatalogue<TransformException>("SRT104"), "SRT04", "Error creating  batch context"},
+      {fromCatalogue<TransformException>("SRT999", {"x"}), "", ""},
+  };
+  for (const auto& [error, code, message] : rows) {
+    EXPECT_EQ(error.getMessage(), message);
+    EXPECT_EQ(error.getErrorCode(), code);
+  }
 }
 
 }  // namespace

@@ -1,9 +1,6 @@
 #pragma once
 
-#include "AbstractDataObject.h"
-#include "Boxing.h"
-#include "DataObjectMetaInfo.h"
-#include "DataObjectSectionImpl.h"
+#include "Support.h"
 
 namespace zarvik {
 

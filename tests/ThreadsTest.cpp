@@ -1,14 +1,7 @@
 #include <thread>
 
 #include "LookupContextFactory.h"
-#include "MessageIdentificationService.h"
-#include "MessageRouter.h"
-#include "ObjectFactory.h"
-#include "Resources.h"
-#include "StringInputSource.h"
 #include "Support.h"
-#include "TransformContext.h"
-#include "UserClassManager.h"
 
 namespace zarvik {
 namespace {

@@ -1,7 +1,5 @@
 #include "TransformContext.h"
 
-#include "Allocations.h"
-#include "Conversion.h"
 #include "Support.h"
 
 namespace zarvik {

@@ -1,15 +1,6 @@
 #include "Triggers.h"
 
-#include "InternalRouterTrigger.h"
-#include "Living.h"
-#include "LookupContextFactory.h"
-#include "NoTransaction.h"
-#include "ObjectFactory.h"
-#include "RouterTrigger.h"
-#include "Support.h"
 #include "TestRecord.h"
-#include "TriggerContextImpl.h"
-#include "UserClassManager.h"
 
 namespace zarvik {
 namespace {

@@ -1,9 +1,5 @@
 #include "UserClassManager.h"
 
-#include "CustomClassSupport.h"
-#include "IFieldProcessing.h"
-#include "IProcessing.h"
-#include "Living.h"
 #include "Support.h"
 
 namespace zarvik {

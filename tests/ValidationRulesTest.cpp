@@ -1,19 +1,6 @@
 #include "ValidationRules.h"
 
-#include "BusinessProcessingRules.h"
-#include "FieldsValidationRules.h"
-#include "IFieldProcessing.h"
-#include "IFieldValidation.h"
-#include "IInvokable.h"
-#include "Living.h"
-#include "NormalizedObjectValidationRules.h"
-#include "ObjectFactory.h"
-#include "ObjectList.h"
-#include "ProcessingRules.h"
 #include "Reporting.h"
-#include "Support.h"
-#include "TransformContext.h"
-#include "UserClassManager.h"
 
 namespace zarvik {
 namespace {

@@ -2,9 +2,6 @@
 
 #include <limits>
 
-#include "RawMessageObject.h"
-#include "SmartPtr.h"
-#include "StringInputSource.h"
 #include "Support.h"
 
 namespace zarvik {

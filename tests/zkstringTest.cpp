@@ -4,7 +4,6 @@
 #include <random>
 #include <string_view>
 
-#include "Allocations.h"
 #include "Support.h"
 
 namespace zarvik {

@@ -10,7 +10,6 @@
 #include <string_view>
 #include <vector>
 
-#include "Allocations.h"
 #include "Support.h"
 #include "date/TimeZone.h"
 

@@ -1,13 +1,7 @@
 #include "fix/FIXHeader.h"
 
-#include "Allocations.h"
-#include "DataObjectMetaInfo.h"
-#include "Soh.h"
-#include "StringInputSource.h"
 #include "Support.h"
-#include "WrapperObjects.h"
-#include "date/DateTime.h"
-#include "fix/FIXMessageIdentifier.h"
+#include "fix/FIXText.h"
 
 namespace zarvik {
 namespace {

@@ -1,6 +1,5 @@
 #include "fix/FIXInputParser.h"
 
-#include "Support.h"
 #include "TestRecord.h"
 
 namespace zarvik {

@@ -4,9 +4,8 @@
 #include <random>
 
 #include "../../cpp/ByteScan.h"
-#include "Allocations.h"
-#include "Soh.h"
 #include "Support.h"
+#include "fix/FIXText.h"
 
 namespace zarvik {
 namespace {

@@ -1,6 +1,5 @@
 #include "formula/MessageFunctions.h"
 
-#include "PropertyMapImpl.h"
 #include "Support.h"
 
 namespace zarvik {

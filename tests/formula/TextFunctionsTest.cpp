@@ -4,12 +4,7 @@
 #include <climits>
 #include <random>
 
-#include "../Allocations.h"
-#include "../Support.h"
-#include "BigDecimal.h"
-#include "BigInteger.h"
-#include "Binary.h"
-#include "date/DateTime.h"
+#include "Support.h"
 
 namespace zarvik {
 namespace {
@@ -17,8 +12,6 @@ namespace {
 using T = TextFunctions;
 
 const zkstring abcde("abcde");
-
-zkstring mine(const std::string& text) { return zkstring(text.data(), static_cast<unsigned int>(text.size())); }
 
 TEST(TextFunctions, charAtAloneFails) {
   EXPECT_EQ(T::charAt(abcde, 4), 'e');
@@ -34,17 +27,17 @@ TEST(TextFunctions, clampsPositionsAndCounts) {
   for (const int n : edges) {
     const std::size_t count = static_cast<std::size_t>(std::clamp(n, 0, 5));
     const bool inside = n >= 0 && n < 5;
-    EXPECT_EQ(T::left(abcde, n), mine(text.substr(0, count)));
-    EXPECT_EQ(T::right(abcde, n), mine(text.substr(5 - count)));
-    EXPECT_EQ(T::insert(abcde, n, zkstring("--")), mine(std::string(text).insert(count, "--")));
-    EXPECT_EQ(T::deleteCharAt(abcde, n), mine(inside ? std::string(text).erase(count, 1) : text));
-    EXPECT_EQ(T::replace(abcde, n, 'X'), mine(inside ? std::string(text).replace(count, 1, "X") : text));
+    EXPECT_EQ(T::left(abcde, n), zk(text.substr(0, count)));
+    EXPECT_EQ(T::right(abcde, n), zk(text.substr(5 - count)));
+    EXPECT_EQ(T::insert(abcde, n, zkstring("--")), zk(std::string(text).insert(count, "--")));
+    EXPECT_EQ(T::deleteCharAt(abcde, n), zk(inside ? std::string(text).erase(count, 1) : text));
+    EXPECT_EQ(T::replace(abcde, n, 'X'), zk(inside ? std::string(text).replace(count, 1, "X") : text));
     for (const int m : edges) {
       const std::size_t length = static_cast<std::size_t>(std::max(m, 0));
       const bool edits = inside && m >= 0;
-      EXPECT_EQ(T::mid(abcde, n, m), mine(text.substr(count, length))) << n << ' ' << m;
-      EXPECT_EQ(T::deleteStr(abcde, n, m), mine(edits ? std::string(text).erase(count, length) : text));
-      EXPECT_EQ(T::replace(abcde, n, m, "XY"), mine(edits ? std::string(text).replace(count, length, "XY") : text));
+      EXPECT_EQ(T::mid(abcde, n, m), zk(text.substr(count, length))) << n << ' ' << m;
+      EXPECT_EQ(T::deleteStr(abcde, n, m), zk(edits ? std::string(text).erase(count, length) : text));
+      EXPECT_EQ(T::replace(abcde, n, m, "XY"), zk(edits ? std::string(text).replace(count, length, "XY") : text));
     }
   }
   EXPECT_EQ(T::insert(T::insert(T::insert(T::insert("", 3, 'x'), 0, 12), 9, 0.5F), 0, 1.5), "1.512x0.5");
@@ -79,7 +72,7 @@ TEST(TextFunctions, trimsControlsBlanksAndHighBytes) {
   for (int i = 0; i < 256; ++i) {  // each byte among eight that go at once
     const std::string inner = static_cast<char>(i) + std::string("x") + static_cast<char>(i);
     const std::string padded = std::string(9, ' ') + inner + std::string(9, '\n');
-    EXPECT_EQ(T::trim(mine(padded)), mine(i > 32 && i < 128 ? inner : "x")) << i;
+    EXPECT_EQ(T::trim(zk(padded)), zk(i > 32 && i < 128 ? inner : "x")) << i;
   }
 }
 
@@ -96,11 +89,11 @@ TEST(TextFunctions, findsFromEitherEnd) {
   for (const int from : {INT_MIN, 0, 1, 2, 5, 7, INT_MAX}) {
     const auto at = static_cast<std::size_t>(std::max(from, 0));
     const int last = from < 0 ? -1 : static_cast<int>(text.rfind("bc", at));
-    EXPECT_EQ(T::findFirst(mine(text), "bc", from), static_cast<int>(text.find("bc", at))) << from;
-    EXPECT_EQ(T::findFirst(mine(text), 'b', from), static_cast<int>(text.find('b', at))) << from;
-    EXPECT_TRUE(T::findLast(mine(text), "bc", from) == last && T::findLast(mine(text), 'b', from) == last) << from;
+    EXPECT_EQ(T::findFirst(zk(text), "bc", from), static_cast<int>(text.find("bc", at))) << from;
+    EXPECT_EQ(T::findFirst(zk(text), 'b', from), static_cast<int>(text.find('b', at))) << from;
+    EXPECT_TRUE(T::findLast(zk(text), "bc", from) == last && T::findLast(zk(text), 'b', from) == last) << from;
   }
-  EXPECT_EQ(T::findFirst(mine(text), '\xFF'), 6);
+  EXPECT_EQ(T::findFirst(zk(text), '\xFF'), 6);
   const zkstring almost(70, 'a');  // stands in many places, but for its end
   EXPECT_EQ(T::findLast("x" + almost + "b" + almost + almost, almost + "b"), 1);
   EXPECT_TRUE(T::findLast("", 'x') == -1 && T::findLast("a", "abc") == -1);
@@ -151,10 +144,10 @@ TEST(TextFunctions, joinsWhatItSplitsAndReplacesLikeTheStandardString) {
     for (std::size_t at = 0; (at = expected.find(from, at)) != std::string::npos; at += to.size()) {
       expected.replace(at, from.size(), to);
     }
-    ASSERT_EQ(T::replace(mine(text), mine(from), mine(to)), mine(expected)) << text << ' ' << from << ' ' << to;
+    ASSERT_EQ(T::replace(zk(text), zk(from), zk(to)), zk(expected)) << text << ' ' << from << ' ' << to;
     zkstringbuffer joined;
-    for (const zkstring& part : T::split(mine(from), mine(text))) T::append(T::append(joined, part), from.c_str());
-    ASSERT_EQ(joined, mine(text.empty() ? "" : text + from));
+    for (const zkstring& part : T::split(zk(from), zk(text))) T::append(T::append(joined, part), from.c_str());
+    ASSERT_EQ(joined, zk(text.empty() ? "" : text + from));
   }
   EXPECT_EQ(T::replace(T::replace("a.b.", zkstring("."), ','), ',', zkstring("--")), "a--b--");
   EXPECT_EQ(T::replace("\xFF.", '\xFF', '.'), "..");

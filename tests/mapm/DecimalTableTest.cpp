@@ -7,7 +7,6 @@
 
 #include "BigDecimal.h"
 #include "Support.h"
-#include "mapm/MAPM.h"
 
 using zarvik::BigDecimal;
 

@@ -7,8 +7,6 @@
 #include <utility>
 #include <vector>
 
-#include "Allocations.h"
-#include "BigDecimal.h"
 #include "Support.h"
 
 namespace {

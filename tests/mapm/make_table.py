@@ -89,10 +89,13 @@ def main():
         a, b = ((rng.randrange(1000), rng.choice(pool), rng.choice([0, 0, -1, 7, -rng.randrange(700)])) for _ in '12')
         places = rng.choice([1, 4, 30, 100, 249, 250, 251, 1000])
         rows.append((operation, a, b, places))
-    print('// Made by make_table.py.')
+    table = []
     for operation, a, b, places in rows:
         result = OPERATIONS[operation](number(*a), number(*b), places)
-        print("{'%s', {%d, %d, %d}, {%d, %d, %d}, %d, 0x%xU}," % (operation, *a, *b, places, fnv(text(result))))
+        table.append("{'%s',{%d,%d,%d},{%d,%d,%d},%d,0x%x}," % (operation, *a, *b, places, fnv(text(result))))
+    print('// Made by make_table.py.')
+    for at in range(0, len(table), 2):
+        print(' '.join(table[at:at + 2]))
 
 
 main()
