@@ -1,15 +1,14 @@
 #include "BigDecimal.h"
 
 #include <cmath>
-#include <limits>
 
 #include "Support.h"
 
 namespace zarvik {
 namespace {
 
-std::string str(const BigDecimal& value) { return value.toString().c_str(); }
-std::string str(const BigInteger& value) { return value.toString().c_str(); }
+std::string str(const BigDecimal& value) { return zarvik::str(value.toString()); }
+std::string str(const BigInteger& value) { return zarvik::str(value.toString()); }
 
 /// Made before main, like a cartridge's constants: no other initialiser has to come first.
 const BigDecimal early = BigDecimal("1") / BigDecimal("8");
@@ -66,15 +65,8 @@ TEST(BigDecimal, remaindersBearTheSignOfTheFirst) {
 }
 
 TEST(BigInteger, quotientKeepsOneDigit) {
-  struct Row {
-    const char* a;
-    const char* b;
-    const char* quotient;
-  };
-  for (const Row& row :
-       {Row{"10", "4", "3"}, Row{"1234", "1", "1000"}, Row{"1000", "3", "300"}, Row{"-7", "2", "-4"}}) {
-    EXPECT_EQ(str(BigInteger(row.a) / BigInteger(row.b)), row.quotient) << row.a;
-  }
+  constexpr const char* rows[][3] = {{"10", "4", "3"}, {"1234", "1", "1000"}, {"1000", "3", "300"}, {"-7", "2", "-4"}};
+  for (const auto& [a, b, quotient] : rows) EXPECT_EQ(str(BigInteger(a) / BigInteger(b)), quotient) << a;
 }
 
 TEST(BigInteger, showsAWholeNumber) {

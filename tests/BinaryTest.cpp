@@ -1,7 +1,5 @@
 #include "Binary.h"
 
-#include <random>
-
 #include "Support.h"
 
 namespace zarvik {

@@ -1,6 +1,5 @@
 #include "ByteArrayOutputDevice.h"
 
-#include <limits>
 #include <new>
 
 #include "Support.h"

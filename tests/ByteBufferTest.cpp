@@ -1,6 +1,5 @@
 #include "ByteBuffer.h"
 
-#include <limits>
 #include <new>
 
 #include "Support.h"

@@ -5,9 +5,6 @@
 #include <climits>
 #include <cmath>
 #include <cstdio>
-#include <limits>
-#include <random>
-#include <sstream>
 
 #include "Support.h"
 

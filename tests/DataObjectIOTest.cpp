@@ -1,8 +1,5 @@
 #include "DataObjectIO.h"
 
-#include <memory>
-#include <random>
-
 #include "TestRecord.h"
 
 namespace zarvik {

@@ -9,11 +9,9 @@ const char* const names[] = {"ID", "a b-c", "Legs", "Header", "ID"};
 const char* const types[] = {"String", "Integer", "Section", "DataObject", "Colour"};
 
 TEST(FieldMetaInfo, manglesNames) {
-  const struct {
-    const char* name;
-    const char* mangled;
-  } rows[] = {{"", ""}, {"_a1", "_a1"}, {"9", "F9"}, {"a b-c", "a_b_c"}, {"1st Leg", "F1st_Leg"}, {"-x\xE9", "F_x_"}};
-  for (const auto& row : rows) EXPECT_EQ(FieldMetaInfo::computeMangledName(row.name), row.mangled) << row.name;
+  constexpr const char* rows[][2] = {{"", ""},           {"_a1", "_a1"},          {"9", "F9"},
+                                     {"a b-c", "a_b_c"}, {"1st Leg", "F1st_Leg"}, {"-x\xE9", "F_x_"}};
+  for (const auto& [name, mangled] : rows) EXPECT_EQ(FieldMetaInfo::computeMangledName(name), mangled) << name;
 }
 
 TEST(FieldMetaInfo, movesToAnyIndexButMinusOne) {

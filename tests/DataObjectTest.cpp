@@ -1,4 +1,3 @@
-#include <utility>
 
 #include "Exceptions.h"
 #include "TestRecord.h"

@@ -2,7 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include <sstream>
 #include <stdexcept>
 
 #include "Support.h"

@@ -1,7 +1,5 @@
 #include "Object.h"
 
-#include <memory>
-
 #include "Support.h"
 
 namespace zarvik {

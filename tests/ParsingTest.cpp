@@ -4,8 +4,6 @@
 #include <bit>
 #include <cstdio>
 #include <cstdlib>
-#include <random>
-#include <sstream>
 
 #include "Support.h"
 

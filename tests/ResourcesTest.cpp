@@ -61,11 +61,7 @@ TEST(Resources, areAsThePageOfErrorsListsThem) {
 }
 
 TEST(Resources, looksInAllBundlesOrInOne) {
-  struct Row {
-    zkstring found;
-    const char* expected;
-  };
-  const Row rows[] = {
+  const std::pair<zkstring, const char*> rows[] = {
       {Resources::getProperty("UNV119.message"), "Mandatory field ''{0}'' is missing"},
       {Resources::getProperty(zkstring("SRT277.code")), "SRT62"},
       {Resources::getProperty("UNV132.code"), ""},
@@ -73,7 +69,7 @@ TEST(Resources, looksInAllBundlesOrInOne) {
       {Resources::getProperty("RuntimeResources", "UNV100.code"), ""},
       {Resources::getProperty("OtherResources", "UNV100.code"), ""},
   };
-  for (const Row& row : rows) EXPECT_EQ(row.found, row.expected);
+  for (const auto& [found, expected] : rows) EXPECT_EQ(found, expected);
 }
 
 TEST(Resources, keepsFirstBundlesAndFirstValues) {

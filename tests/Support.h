@@ -2,8 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
+#include <limits>
+#include <random>
+#include <sstream>
 #include <string>
+#include <vector>
 
 #include "Allocations.h"
 #include "zarvikrt.h"

@@ -68,30 +68,17 @@ class TestRecord : public AbstractDataObject {
  protected:
   using AbstractDataObject::getField0;
   Object* getField0(int index, Object* reuse) const override {
-    switch (index) {
-      case NAME:
-        return box(values.name, reuse);
-      case COUNT:
-        return box(values.count, reuse);
-      case LEGS:
-        return box(legs, reuse);
-      case INNER:
-        return box(inner, reuse);
-      default:
-        return AbstractDataObject::getField0(index, reuse);
-    }
+    if (index == NAME) return box(values.name, reuse);
+    if (index == COUNT) return box(values.count, reuse);
+    if (index == LEGS) return box(legs, reuse);
+    if (index == INNER) return box(inner, reuse);
+    return AbstractDataObject::getField0(index, reuse);
   }
   void setField0(int index, const Object* value) override {
-    switch (index) {
-      case NAME:
-        return unbox(value, values.name);
-      case COUNT:
-        return unbox(value, values.count);
-      case LEGS:
-        return unbox(value, legs);
-      default:
-        return AbstractDataObject::setField0(index, value);
-    }
+    if (index == NAME) return unbox(value, values.name);
+    if (index == COUNT) return unbox(value, values.count);
+    if (index == LEGS) return unbox(value, legs);
+    AbstractDataObject::setField0(index, value);
   }
 };
 

@@ -1,7 +1,5 @@
 #include "WrapperObjects.h"
 
-#include <limits>
-
 #include "Support.h"
 
 namespace zarvik {

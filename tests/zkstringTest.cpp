@@ -1,7 +1,6 @@
 #include "zkstring.h"
 
 #include <map>
-#include <random>
 #include <string_view>
 
 #include "Support.h"

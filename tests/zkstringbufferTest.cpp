@@ -1,7 +1,5 @@
 #include "zkstringbuffer.h"
 
-#include <random>
-
 #include "Support.h"
 
 namespace zarvik {

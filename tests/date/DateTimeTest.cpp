@@ -6,9 +6,7 @@
 #include <cstring>
 #include <ctime>
 #include <map>
-#include <random>
 #include <string_view>
-#include <vector>
 
 #include "Support.h"
 #include "date/TimeZone.h"

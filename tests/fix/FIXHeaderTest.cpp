@@ -82,14 +82,5 @@ TEST(FIXHeader, copiesValuesAndNullsAndKeepsToItsIndexes) {
   }
 }
 
-TEST(FIXMessageIdentifier, letsNoHalfFilledHeaderEscape) {
-  FIXMessageIdentifier identifier;
-  StringInputSource other("9=FIX");
-  EXPECT_EQ(identifier.identifyMessage(other), nullptr);
-  StringInputSource bad(zk(soh("8=FIX.4.2|9=x|")));
-  EXPECT_EQ(errorOf<FIXParsingException>([&] { identifier.identifyMessage(bad); }),
-            "[col 14] Cannot convert 'x' to int");
-}
-
 }  // namespace
 }  // namespace zarvik

@@ -1,7 +1,6 @@
 #include "fix/FIXTokenizer.h"
 
 #include <charconv>
-#include <random>
 
 #include "../../cpp/ByteScan.h"
 #include "Support.h"
@@ -83,11 +82,7 @@ TEST(FIXTokenizer, readsDataByItsLength) {
       "Blob type tag value pair has incorrect data length, character after the specified length is not the SOH "
       "character";
   const std::string outside = "Unexpected end of input while looking for data";
-  const struct {
-    const char* text;
-    int length;
-    std::string result;
-  } rows[] = {
+  const std::tuple<const char*, int, std::string> rows[] = {
       {"96=ab|cd|58=x|", 5, "96:ab|cd@9"},
       {"96=ab|cd|", 2, "96:ab@6"},
       {"96=|58=x|", 0, "96:@4"},
@@ -103,18 +98,16 @@ TEST(FIXTokenizer, readsDataByItsLength) {
       {"96=ab|", -4, outside + "@3"},
       {"", 0, "end@0"},
   };
-  for (const auto& row : rows) {
-    FIXTokenizer tokenizer(zk(soh(row.text)), '\x01');
+  for (const auto& [text, length, expected] : rows) {
+    FIXTokenizer tokenizer(zk(soh(text)), '\x01');
     Pair pair;
-    std::string result;
+    std::string result = "end";
     try {
-      result =
-          tokenizer.nextDataTag(pair, row.length) ? std::to_string(pair.getTag()) + ":" + str(pair.getValue()) : "end";
+      if (tokenizer.nextDataTag(pair, length)) result = std::to_string(pair.getTag()) + ":" + str(pair.getValue());
     } catch (const TransformException& error) {
       result = str(error.getMessage());
     }
-    EXPECT_EQ(result + "@" + std::to_string(tokenizer.getCurrentIndex()), soh(row.result))
-        << row.text << " by " << row.length;
+    EXPECT_EQ(result + "@" + std::to_string(tokenizer.getCurrentIndex()), soh(expected)) << text << " by " << length;
   }
   FIXTokenizer tokenizer("95=1|96=|", '|');
   Pair pair;

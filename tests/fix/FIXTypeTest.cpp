@@ -1,7 +1,5 @@
 #include "fix/FIXType.h"
 
-#include <random>
-
 #include "Support.h"
 
 namespace zarvik {

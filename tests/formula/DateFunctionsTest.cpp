@@ -1,7 +1,6 @@
 #include "formula/DateFunctions.h"
 
 #include <climits>
-#include <tuple>
 
 #include "Support.h"
 #include "date/TimeZone.h"

@@ -2,7 +2,6 @@
 
 #include <cctype>
 #include <climits>
-#include <random>
 
 #include "Support.h"
 

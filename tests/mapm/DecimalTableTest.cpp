@@ -1,9 +1,6 @@
 // Every operation against results that were computed elsewhere, and long ones against what must hold between them.
 #include <algorithm>
 #include <cstdint>
-#include <random>
-#include <string>
-#include <vector>
 
 #include "BigDecimal.h"
 #include "Support.h"
@@ -56,22 +53,13 @@ std::string scientific(const MAPM& value) {
 }
 
 MAPM calculate(const Row& row, const BigDecimal& a, const BigDecimal& b) {
-  switch (row.operation) {
-    case '+':
-      return a + b;
-    case '-':
-      return a - b;
-    case '*':
-      return a * b;
-    case '/':
-      return a.divide(b, row.places);
-    case 'i':
-      return a.integer_divide(b);
-    case '%':
-      return a % b;
-    default:
-      return a.round(row.places);
-  }
+  if (row.operation == '+') return a + b;
+  if (row.operation == '-') return a - b;
+  if (row.operation == '*') return a * b;
+  if (row.operation == '/') return a.divide(b, row.places);
+  if (row.operation == 'i') return a.integer_divide(b);
+  if (row.operation == '%') return a % b;
+  return a.round(row.places);
 }
 
 /// `count` random digits, none of them 0 at the ends.

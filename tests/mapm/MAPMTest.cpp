@@ -2,10 +2,7 @@
 
 #include <cstdlib>
 #include <cstring>
-#include <string>
 #include <thread>
-#include <utility>
-#include <vector>
 
 #include "Support.h"
 

@@ -2,9 +2,7 @@
 #include <filesystem>
 #include <fstream>
 #include <new>
-#include <random>
 #include <set>
-#include <sstream>
 
 #include "Support.h"
 #include "fix/FIXText.h"
