@@ -65,11 +65,10 @@ void TagValueOutputWriter::appendField0(FieldTag tag, std::string_view value) {
   endField(put(tag.put(messageBuffer.next()), value));
 }
 
-// Not inline, so that the usual field need save no register.
+// Not inline, so that the usual field need save no register. Room comes first: a text that is refused leaves no tag.
 [[gnu::noinline]] void TagValueOutputWriter::appendLong(FieldTag tag, std::string_view value) {
-  messageBuffer.setNext(tag.put(messageBuffer.next()));
-  messageBuffer.append(value);
-  endField(messageBuffer.next());
+  messageBuffer.reserve(value.size());
+  endField(std::copy(value.begin(), value.end(), tag.put(messageBuffer.next())));
 }
 
 void TagValueOutputWriter::appendChar(FieldTag tag, char value) {

@@ -81,6 +81,10 @@ TEST(FIXOutputWriter, framesMessagesOfEverySize) {
   writer.initMessage();
   writer.setChecksum(false);
   writer.appendField("8", "FIX.4.2");
+  zkstring tooLong;  // is refused before it is looked at
+  tooLong.getBuffer(1);
+  tooLong.setBufferLength(std::numeric_limits<int>::max());
+  EXPECT_THROW(writer.appendField("58", tooLong), std::bad_array_new_length);
   writer.appendField("35", "0");
   OpenWriter copy(writer);
   copy.appendField("1", 1);
