@@ -18,14 +18,14 @@ void InternalRouterTrigger::setContext(TriggerContext* triggerContext) {
 }
 
 void InternalRouterTrigger::onNewMessage(DataObject* message, TransformContext& callContext) {
-  TransformContext& laidOver = getTransformContext(callContext);
-  const SmartPtr<DataObject> mapped(normalizedObjectMappingFormat->map(message, laidOver));
-  internalMessage->handleNormalizedObject(mapped.get(), laidOver);
+  const Call call(*this, callContext);
+  const SmartPtr<DataObject> mapped(normalizedObjectMappingFormat->map(message, transformContext));
+  internalMessage->handleNormalizedObject(mapped.get(), transformContext);
 }
 
-void InternalRouterTrigger::onBatchStart(TransformContext& callContext) { getTransformContext(callContext); }
+void InternalRouterTrigger::onBatchStart(TransformContext& callContext) { const Call call(*this, callContext); }
 
-void InternalRouterTrigger::onBatchEnd(TransformContext& callContext) { getTransformContext(callContext); }
+void InternalRouterTrigger::onBatchEnd(TransformContext& callContext) { const Call call(*this, callContext); }
 
 void InternalRouterTrigger::initNormalizedObjectMappingFormat() {
   if (!normalizedObjectMappingFormat.isNull()) return;

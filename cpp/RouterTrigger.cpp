@@ -1,5 +1,7 @@
 #include "RouterTrigger.h"
 
+#include <utility>
+
 #include "Exceptions.h"
 #include "StartUp.h"
 #include "ThrowFrom.h"
@@ -31,6 +33,20 @@ TransformContext& AbstractTrigger::getTransformContext(TransformContext& callCon
   return transformContext;
 }
 
+AbstractTrigger::Call::Call(AbstractTrigger& trigger, TransformContext& callContext)
+    : trigger(trigger),
+      around(std::exchange(trigger.inCall, true) ? trigger.transformContext.getTransformContext() : nullptr) {
+  trigger.getTransformContext(callContext);
+}
+
+AbstractTrigger::Call::~Call() {
+  if (around != nullptr) {
+    trigger.getTransformContext(*around);
+  } else {
+    trigger.inCall = false;
+  }
+}
+
 SmartPtr<IOutputFormat> AbstractTrigger::getOutputFormat(zkstring name) {
   if (name.empty()) throwFrom(here, TransformException("RouterTrigger: Output format is not configured (null)"));
   const auto known = outputFormats.find(name);
@@ -41,15 +57,19 @@ SmartPtr<IOutputFormat> AbstractTrigger::getOutputFormat(zkstring name) {
 }
 
 void RouterTrigger::onNewMessage(DataObject* message, TransformContext& callContext) {
-  formatFor(callContext)->write(message, transformContext);
+  const Call call(*this, callContext);
+  outputFormat()->write(message, transformContext);
 }
 
-void RouterTrigger::onBatchStart(TransformContext& callContext) { formatFor(callContext); }
+void RouterTrigger::onBatchStart(TransformContext& callContext) {
+  const Call call(*this, callContext);
+  outputFormat();
+}
 
-void RouterTrigger::onBatchEnd(TransformContext& callContext) { formatFor(callContext); }
+void RouterTrigger::onBatchEnd(TransformContext& callContext) { RouterTrigger::onBatchStart(callContext); }
 
-SmartPtr<IOutputFormat> RouterTrigger::formatFor(TransformContext& callContext) {
-  return getOutputFormat(getTransformContext(callContext).getProperty(TransformContext::OUTPUT_FORMAT_PROPERTY));
+SmartPtr<IOutputFormat> RouterTrigger::outputFormat() {
+  return getOutputFormat(transformContext.getProperty(TransformContext::OUTPUT_FORMAT_PROPERTY));
 }
 
 }  // namespace zarvik

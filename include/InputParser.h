@@ -15,6 +15,7 @@ class TransformContext;
 /// which it can go on to `exceptionHandler`. A parser belongs to its message and serves one thread at a time.
 class InputParser : public Object {
  public:
+  /// Fills `object`, which stays the caller's; an error that is thrown leaves it half filled. A source is read whole.
   virtual void parse(ExternalObject* object, InputSource& source, TransformContext& context);
   /// A new object, with count 0, which is the caller's.
   virtual ExternalObject* parse(InputSource& source, TransformContext& context);

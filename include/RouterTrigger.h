@@ -16,8 +16,7 @@ class RouterTrigger : public AbstractTrigger {
   void onBatchEnd(TransformContext& callContext) override;    ///< as `onBatchStart`
 
  private:
-  /// Lays the trigger's properties over `callContext`.
-  SmartPtr<IOutputFormat> formatFor(TransformContext& callContext);
+  SmartPtr<IOutputFormat> outputFormat();  ///< that of the call in progress
 };
 
 }  // namespace zarvik

@@ -9,6 +9,7 @@ class ValidationRules : public AbstractValidationRules {
  public:
   virtual ~ValidationRules() = default;
 
+  /// Runs the step. Its errors leave as they are: unlike other rules these set no error type.
   void validate(DataObject* object, TransformContext& context);
   /// The handler stays the caller's and is used until the next one is set.
   void setExceptionHandler(ExceptionHandler* handler) { exceptionHandler = handler; }

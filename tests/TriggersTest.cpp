@@ -1,13 +1,18 @@
 #include "Triggers.h"
 
+#include <functional>
+#include <memory>
+
 #include "TestRecord.h"
 
 namespace zarvik {
 namespace {
 
-std::string seen;  ///< what came where
+std::string seen;              ///< what came where
+std::function<void()> within;  ///< done once, by the next that sees something
 
 void seenBy(const char* where, DataObject* object, TransformContext& context) {
+  if (within) std::exchange(within, nullptr)();
   seen += where;
   for (const char* name : {"output.destination", "output.device", "input.source"}) {
     seen += (" " + context.getProperty(name)).c_str();
@@ -131,6 +136,25 @@ TEST(InternalRouterTrigger, handsOnWhatItMaps) {
   EXPECT_EQ(Target::alive, 1);
   at.context.setProperty("input.source", "bad");
   EXPECT_EQ(errorOf<NamingException>([&] { at.fire(); }), "refused");  // and what was mapped is gone
+}
+
+TEST(Triggers, haveTheirContextAgainBehindACallWithinTheirs) {
+  constexpr std::pair<const char*, const char*> rows[] = {
+      {"RouterTrigger", "format there  ack:message;format there file host:message;"},
+      {"InternalRouterTrigger",
+       "mapping there  ack:message;target there  ack:mapped;mapping there file host:message;"
+       "target there file host:mapped;"}};
+  for (const auto& [name, expected] : rows) {
+    Setting at(name);
+    at.triggerContext->addProperty("output.format", "first");
+    at.triggerContext->addProperty("internalmapping.format", "mapping");
+    within = [&] {
+      const auto own = std::make_unique<TransformContext>();
+      own->setProperty("input.source", "ack");
+      at.triggers.onNewMessage(at.message.get(), *own);
+    };
+    EXPECT_EQ(at.fire(), expected);
+  }
 }
 
 TEST(Triggers, makeEachTriggerOnce) {
