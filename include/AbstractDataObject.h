@@ -70,8 +70,8 @@ class AbstractDataObject : public DataObjectBase {
   /// throws FieldNotFoundException.
   virtual void setField0(int index, const Object* value);
   /// The value of a field that is not null: put into `reuse` by the setter of its kind, or boxed anew without one.
-  /// A nested object gives itself, a section a SectionObject. Unknown indexes come here, which throws
-  /// FieldNotFoundException.
+  /// A section, and a nested object that is kept as one, gives a SectionObject; a record that is kept by itself, as in
+  /// ExternalObject, gives itself. Unknown indexes come here, which throws FieldNotFoundException.
   virtual Object* getField0(int index, Object* reuse) const;
   virtual Object* getField0(int index) const;  ///< by default the form above without `reuse`
 

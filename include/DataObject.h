@@ -65,12 +65,12 @@ class DataObject : public ObjectRef {
   /// tag.
   virtual zkstring toXMLString(int level) = 0;
 
-  virtual DataObject* getRootDataObject() const = 0;
+  virtual DataObject* getRootDataObject() const = 0;  ///< the outermost record, perhaps itself
   virtual bool isEmpty() const = 0;  ///< whether no field has a value, but for sections that are themselves empty
   virtual DataObjectMetaInfo* getMetaInfo() const = 0;
   virtual void read(std::istream& in) = 0;
   virtual void write(std::ostream& out) const = 0;
-  virtual void reset() = 0;
+  virtual void reset() = 0;  ///< makes every field null and every section empty, for the next message
 };
 
 }  // namespace zarvik

@@ -63,7 +63,7 @@ class ExceptionClass : public Base {
   explicit ExceptionClass(const Base& other) : Base(other) {}  ///< takes over what `other` tells
 };
 
-/// A state of the library that its own code should have made impossible.
+/// A state that the code should have made impossible: for generated code.
 class InternalError : public ExceptionClass<InternalError, Exception> {
   using ExceptionClass::ExceptionClass;
 };
@@ -73,7 +73,7 @@ class IllegalArgumentException : public ExceptionClass<IllegalArgumentException,
   using ExceptionClass::ExceptionClass;
 };
 
-/// A class name that nobody has registered.
+/// A class that is not there: for generated code. UserClassManager tells of an unknown name by TransformException.
 class ClassNotFoundException : public ExceptionClass<ClassNotFoundException, Exception> {
   using ExceptionClass::ExceptionClass;
 };
@@ -83,7 +83,7 @@ class ClassCastException : public ExceptionClass<ClassCastException, Exception> 
   using ExceptionClass::ExceptionClass;
 };
 
-/// A largest or smallest value of no values at all.
+/// A largest or smallest value of no values at all: for generated code.
 class LocalInitializationException : public ExceptionClass<LocalInitializationException, Exception> {
   using ExceptionClass::ExceptionClass;
 };
@@ -180,7 +180,7 @@ class SectionConstraintException : public ExceptionClass<SectionConstraintExcept
   using ExceptionClass::ExceptionClass;
 };
 
-/// An FCS message that cannot be read; knows the line that failed.
+/// An FCS message that cannot be read; knows the line that failed. For generated code.
 class FCSParseException : public ExceptionClass<FCSParseException, TransformException> {
  public:
   using ExceptionClass::ExceptionClass;
@@ -217,7 +217,7 @@ class SIACCanonicalParsingException : public ExceptionClass<SIACCanonicalParsing
   SIACCanonicalParsingException(const TransformException& error) : ExceptionClass(error) {}
 };
 
-/// A SIAC Canonical message that cannot be written.
+/// A SIAC Canonical message that cannot be written: for generated code.
 class SIACCanonicalWriterException : public ExceptionClass<SIACCanonicalWriterException, TransformException> {
  public:
   using ExceptionClass::ExceptionClass;

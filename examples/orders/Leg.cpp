@@ -40,8 +40,6 @@ DataObject* Leg::createSectionElement(const zkstring& sectionName, DataObjectSec
   }
 }
 
-Party* Leg::addParty() { return &parties.add(); }
-
 Object* Leg::getField0(int index, Object* reuse) const {
   switch (index) {
     case SYMBOL:

@@ -27,7 +27,6 @@ class Leg : public zarvik::AbstractDataObject {
   int getRatio() const { return ensureNotNull(RATIO), values.ratio; }
   void setRatio(int value) { setNotNull(RATIO), values.ratio = value; }
   Group<Party>& getParties() { return parties; }
-  Party* addParty();  ///< stays the leg's
 
  protected:
   using AbstractDataObject::getField0;

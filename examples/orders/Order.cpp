@@ -90,8 +90,6 @@ Instrument* Order::getInstrument() {
   return static_cast<Instrument*>(instrument.getElement(0));
 }
 
-Leg* Order::addLeg() { return &legs.add(); }
-
 Object* Order::getField0(int index, Object* reuse) const {
   switch (index) {
     case ID:

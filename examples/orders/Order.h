@@ -93,7 +93,6 @@ class Order : public zarvik::AbstractDataObject {
   void setMarketClose(const zarvik::ISODateTime& value) { setNotNull(MARKET_CLOSE), values.marketClose = value; }
   Instrument* getInstrument();  ///< stays the order's; made when it is first asked for
   Group<Leg>& getLegs() { return legs; }
-  Leg* addLeg();  ///< stays the order's
   const zarvik::zkstring& getCurrency() const { return ensureNotNull(CURRENCY), values.currency; }
   void setCurrency(const zarvik::zkstring& value) { setNotNull(CURRENCY), values.currency = value; }
   const zarvik::zkstring& getText() const { return ensureNotNull(TEXT), values.text; }

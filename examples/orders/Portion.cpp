@@ -17,7 +17,7 @@ DataObjectMetaInfo* Portion::metaInfo() {
 Object* Portion::getField0(int index, Object* reuse) const {
   switch (index) {
     case ID:
-      return box(values.iD, reuse);
+      return box(values.id, reuse);
     case QUANTITY:
       return box(values.quantity, reuse);
     default:
@@ -28,7 +28,7 @@ Object* Portion::getField0(int index, Object* reuse) const {
 void Portion::setField0(int index, const Object* value) {
   switch (index) {
     case ID:
-      return unbox(value, values.iD);
+      return unbox(value, values.id);
     case QUANTITY:
       return unbox(value, values.quantity);
     default:

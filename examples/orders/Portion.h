@@ -17,8 +17,8 @@ class Portion : public zarvik::AbstractDataObject {
   static zarvik::DataObjectMetaInfo* metaInfo();
   zarvik::Object* clone() const override { return new Portion(*this, nullptr); }
 
-  const zarvik::zkstring& getID() const { return ensureNotNull(ID), values.iD; }
-  void setID(const zarvik::zkstring& value) { setNotNull(ID), values.iD = value; }
+  const zarvik::zkstring& getID() const { return ensureNotNull(ID), values.id; }
+  void setID(const zarvik::zkstring& value) { setNotNull(ID), values.id = value; }
   int getQuantity() const { return ensureNotNull(QUANTITY), values.quantity; }
   void setQuantity(int value) { setNotNull(QUANTITY), values.quantity = value; }
 
@@ -30,7 +30,7 @@ class Portion : public zarvik::AbstractDataObject {
  private:
   struct Values {
     bool flags[FIELD_COUNT] = {};
-    zarvik::zkstring iD;
+    zarvik::zkstring id;
     int quantity = 0;
   };
   Values values;

@@ -1,6 +1,7 @@
 // The cartridge at work: every FIX message of a file goes its whole road, and what comes out of it is printed.
 #include <algorithm>
 #include <cstdio>
+#include <filesystem>
 #include <fstream>
 #include <string>
 
@@ -42,19 +43,23 @@ void process(const MessageRouter& router, std::string message, const zkstring& o
   }
 }
 
+int fail(const char* what, const char* name) {
+  std::fflush(stdout);
+  std::fprintf(stderr, "orders: cannot %s '%s'\n", what, name);
+  return 1;
+}
+
 int processAll(const char* name) {
   std::ifstream file(name);
-  if (!file) {
-    std::fprintf(stderr, "orders: cannot read '%s'\n", name);
-    return 1;
-  }
+  if (!file) return fail("read", name);
   MessageRouter router;
   orders::addRows(router);
   int number = 0;
   for (std::string line; std::getline(file, line);) {
     process(router, line, "message " + zkstring(std::to_string(++number).c_str()));
   }
-  return 0;
+  if (file.bad()) return fail("read", name);
+  return std::fflush(stdout) == 0 && std::ferror(stdout) == 0 ? 0 : fail("write", "standard output");
 }
 }  // namespace
 
@@ -63,6 +68,7 @@ int main(int count, char** arguments) {
     std::fprintf(stderr, "usage: orders MESSAGES FOLDER\nFOLDER takes the files of large orders and of executions\n");
     return 2;
   }
+  if (!std::filesystem::is_directory(arguments[2])) return fail("write to the folder", arguments[2]);
   orders::install(arguments[2]);
   return processAll(arguments[1]);
 }

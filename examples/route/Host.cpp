@@ -41,6 +41,19 @@ zkstring messageOf(std::string_view line) {
 
 std::string textOf(const zkstring& text) { return std::string(text.data(), text.length()); }
 
+/// `text` on one line that is not too long to read; some errors quote a whole record.
+std::string oneLine(const zkstring& text) {
+  constexpr std::size_t longest = 160;
+  std::string line;
+  for (const char c : textOf(text)) {
+    const bool blank = c == '\n' || c == '\t' || c == ' ';
+    if (!blank) line += c;
+    if (blank && !line.empty() && line.back() != ' ') line += ' ';
+  }
+  if (line.ends_with(' ')) line.pop_back();
+  return line.size() <= longest ? line : line.substr(0, longest) + "...";
+}
+
 Errors only(TransformException* error) { return {SmartPtr<ExceptionDataObject>(error)}; }
 }  // namespace
 
@@ -101,8 +114,7 @@ void Host::reject(const char* what, const Errors& errors, const std::string& lin
   rejects.add(origin + ", " + what, xml, line);
   if (options.quiet) return;
   if (options.show) return static_cast<void>(std::printf("Rejected, %s:\n%s\n", what, readable(xml).c_str()));
-  const std::string first = textOf(errors.front()->getMessage());
-  std::printf("%s: %s, %s", origin.c_str(), what, first.substr(0, first.find('\n')).c_str());
+  std::printf("%s: %s, %s", origin.c_str(), what, oneLine(errors.front()->getMessage()).c_str());
   if (errors.size() > 1) std::printf(" (and %zu more)", errors.size() - 1);
   std::printf("\n");
 }
@@ -123,7 +135,8 @@ void Host::printSummary() {
   const std::chrono::duration<double> seconds = Clock::now() - start;
   if (options.show) std::printf("\n");
   print("", "messages", messages);
-  print("", "messages per second", static_cast<long>(static_cast<double>(messages) / seconds.count()));
+  if (!options.show)
+    print("", "messages per second", static_cast<long>(static_cast<double>(messages) / seconds.count()));
   printAll("routed", routed);
   const long refused = printAll("rejected", rejected);
   if (!options.show) printAll("written", written);

@@ -127,6 +127,11 @@ file(STRINGS ${rejects} refused REGEX "^[^#]")
 list(LENGTH refused count)
 expect("refused messages in all" "${count}" "3")
 
+run(0 --reject ${rejects} ${messages})
+if(NOT output MATCHES ":49: unhandled, Cannot handle message <DataObject> <MessageFormat>FIX</MessageFormat> ")
+  message(FATAL_ERROR "An error of several lines is not told on one:\n${output}")
+endif()
+
 run(0 --show --reject ${rejects} ${CMAKE_CURRENT_LIST_DIR}/demo.txt)
 foreach(part "Normalised:\n<Order>" "Written to orders.fix as NewOrderSingle44Out:\n8=FIX.4.4|" "Rejected, failed:\n<Tr")
   string(FIND "${output}" "${part}" place)

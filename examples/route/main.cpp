@@ -64,7 +64,8 @@ int main(int count, char** arguments) {
     } else {
       run(options);
     }
-    if (std::fflush(stdout) != 0) throw std::system_error(errno, std::generic_category(), "cannot write the output");
+    if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0)
+      throw std::system_error(errno, std::generic_category(), "cannot write the output");
   } catch (const route::UsageError& error) {
     std::fprintf(stderr, "route: %s\n%s", error.text.c_str(), route::usage);
     return 2;

@@ -119,7 +119,9 @@ int main(int count, char** arguments) {
   try {
     if (!file) throw TransformException("cannot be opened");
     process(file, lineNumber);
-    return 0;
+    if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return 0;
+    std::fprintf(stderr, "values: cannot write the output\n");
+    return 1;
   } catch (const Exception& error) {
     std::fflush(stdout);
     std::fprintf(stderr, "values: %s:%d: %s\n", name, lineNumber, error.getMessage().c_str());

@@ -74,7 +74,7 @@ class FIXHeader : public HeaderRecord<FIXHeader, 14, 1U << 4 | 1U << 10> {
   const zkstring& getTargetSubID() const { return text(TARGET_SUB_ID); }
   void setTargetSubID(const zkstring& value) { setText(TARGET_SUB_ID, value); }
   const zkstring& getSendingTime() const { return text(SENDING_TIME); }
-  void setSendingTime(const zkstring& value) { setText(SENDING_TIME, value); }  ///< no parser does
+  void setSendingTime(const zkstring& value) { setText(SENDING_TIME, value); }  ///< `parseHeader` steps over it
   void setSendingTime(const DateTime& value);  ///< as FIXType::formatUTCTimestamp writes it; allocates the first time
 
  private:
