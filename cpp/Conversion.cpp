@@ -1,7 +1,6 @@
 #include "Conversion.h"
 
 #include <algorithm>
-#include <array>
 #include <bit>
 #include <charconv>
 #include <cstdint>
@@ -10,6 +9,7 @@
 #include "BigDecimal.h"
 #include "BigInteger.h"
 #include "Binary.h"
+#include "DigitPairs.h"
 #include "Exceptions.h"
 #include "TextForms.h"
 #include "ThrowFrom.h"
@@ -20,21 +20,6 @@ namespace {
 
 constexpr char here[] = "cpp/Conversion";
 constinit const zkstringliteral datePattern("MMM dd, yyyy");
-
-/// The texts "00" to "99", one behind the other.
-constexpr auto digitPairs = [] {
-  std::array<char, 200> pairs{};
-  for (unsigned int i = 0; i < 100; ++i) {
-    pairs[2 * i] = static_cast<char>('0' + i / 10);
-    pairs[2 * i + 1] = static_cast<char>('0' + i % 10);
-  }
-  return pairs;
-}();
-
-char* putPair(char* out, std::uint64_t n) {
-  std::memcpy(out, &digitPairs[2 * n], 2);
-  return out + 2;
-}
 
 /// A number of one or two digits, without a branch: behind a single digit a 0 is written, for what follows to replace.
 char* putOneOrTwo(char* out, std::uint64_t n) {

@@ -1,7 +1,6 @@
 #include "date/DateStr.h"
 
 #include <algorithm>
-#include <array>
 #include <bit>
 #include <cassert>
 #include <charconv>
@@ -9,6 +8,7 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "../DigitPairs.h"
 #include "Exceptions.h"
 #include "ThrowFrom.h"
 
@@ -19,16 +19,6 @@ constexpr char here[] = "cpp/date/DateStr";
 
 constexpr std::string_view months[] = {"January", "February", "March",     "April",   "May",      "June",
                                        "July",    "August",   "September", "October", "November", "December"};
-
-/// The texts "00" to "99", one behind the other.
-constexpr auto pairs = [] {
-  std::array<char, 200> texts{};
-  for (unsigned int i = 0; i < 100; ++i) {
-    texts[2 * i] = static_cast<char>('0' + i / 10);
-    texts[2 * i + 1] = static_cast<char>('0' + i % 10);
-  }
-  return texts;
-}();
 
 /// The length of the run of equal characters that begins at `at`.
 inline std::size_t runAt(const char* at, const char* end) {
@@ -98,26 +88,22 @@ char* padded(char* out, __int64 value, int width) {
   return std::copy(text, end, out);
 }
 
-inline char* pair(char* out, unsigned int value) {
-  std::memcpy(out, &pairs[2 * value], 2);
-  return out + 2;
-}
-
 inline char* twoDigits(char* out, int value) {
-  return static_cast<unsigned int>(value) < 100 ? pair(out, static_cast<unsigned int>(value)) : padded(out, value, 2);
+  return static_cast<unsigned int>(value) < 100 ? putPair(out, static_cast<unsigned int>(value))
+                                                : padded(out, value, 2);
 }
 
 inline char* milliseconds(char* out, int value) {
   if (static_cast<unsigned int>(value) >= 1000) return padded(out, value, 3);
   *out = static_cast<char>('0' + value / 100);
-  return pair(out + 1, static_cast<unsigned int>(value % 100));
+  return putPair(out + 1, static_cast<unsigned int>(value % 100));
 }
 
 inline char* printYear(char* out, int signedYear, std::size_t run) {
   const __int64 year = std::abs(__int64{signedYear});
-  if (run != 4) return pair(out, static_cast<unsigned int>(year % 100));
+  if (run != 4) return putPair(out, static_cast<unsigned int>(year % 100));
   if (year > 9999) return padded(out, year, 5);
-  return pair(pair(out, static_cast<unsigned int>(year / 100)), static_cast<unsigned int>(year % 100));
+  return putPair(putPair(out, static_cast<unsigned int>(year / 100)), static_cast<unsigned int>(year % 100));
 }
 
 inline char* printMonth(char* out, int month, std::size_t run) {
